@@ -1,0 +1,37 @@
+# The two commands of the README are `make run` and `make test`; the others are for developers.
+BUILD_DIR   ?= build
+BUILD_TYPE  ?= RelWithDebInfo
+CMAKE_FLAGS ?=
+JOBS        ?= 2
+# Builds take a lock so that several checkouts or agents never compile at once on a small machine.
+LOCK        := flock /tmp/recview-build.lock
+SAMPLES     := $(wildcard data/samples/*.vxf) $(wildcard data/samples/*.VXF)
+
+.PHONY: run test test-asan bench fuzz deps configure build
+
+deps:
+	@scripts/install-deps
+
+configure: deps
+	@cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) $(CMAKE_FLAGS) > /dev/null
+
+build: configure
+	@$(LOCK) cmake --build $(BUILD_DIR) -j $(JOBS)
+
+run: build
+	$(BUILD_DIR)/recview $(SAMPLES)
+
+test: build
+	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+test-asan:
+	@$(MAKE) --no-print-directory test BUILD_DIR=build-asan BUILD_TYPE=Debug CMAKE_FLAGS="-DRECVIEW_SANITIZE=ON"
+
+bench:
+	@$(MAKE) --no-print-directory build BUILD_DIR=build-release BUILD_TYPE=Release
+	@bench/run build-release
+
+fuzz:
+	@$(MAKE) --no-print-directory build BUILD_DIR=build-fuzz BUILD_TYPE=Debug \
+	  CMAKE_FLAGS="-DRECVIEW_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_C_COMPILER=clang"
+	@scripts/run-fuzz build-fuzz

@@ -1,0 +1,20 @@
+# One static library per subsystem: the sources of src/<dir>/ without its widgets/ folder.
+function(recview_library name dir)
+    cmake_parse_arguments(ARG "" "" "DEPS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${dir}/*.cpp
+                                        ${PROJECT_SOURCE_DIR}/src/${dir}/*.h)
+    add_library(${name} STATIC ${sources})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${ARG_DEPS})
+endfunction()
+
+# One GoogleTest program per subsystem: every tests/<dir>/*.cpp, linked with the support library.
+function(recview_test name dir)
+    cmake_parse_arguments(ARG "" "" "DEPS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${dir}/*.cpp)
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE recview_test_support ${ARG_DEPS} GTest::gtest GTest::gmock)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
+                                            WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+endfunction()

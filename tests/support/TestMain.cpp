@@ -1,0 +1,16 @@
+// Every test program starts here: a GUI application on the offscreen platform, and a private
+// per-user data folder so that no test touches the real user's settings.
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.path().toUtf8() + "/data");
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8() + "/config");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
