@@ -54,6 +54,14 @@ qint64 toSeconds(const CalendarTime& t) {
     return days * 86400 + qint64(t.hour) * 3600 + qint64(t.minute) * 60 + t.second;
 }
 
+qint64 serialSeconds(int year, int month, int day, int hour, int minute, int second) {
+    const qint64 monthIndex = qint64(year) * 12 + (month - 1);
+    const qint64 y = floorDiv(monthIndex, 12);
+    const int m = int(monthIndex - y * 12) + 1;
+    const qint64 days = daysFromCivil(y, m, 1) - kDaysFrom1970To2000 + (day - 1);
+    return days * 86400 + qint64(hour) * 3600 + qint64(minute) * 60 + second;
+}
+
 int weekday(qint64 s) {
     // 2000-01-01 was a Saturday.
     const qint64 days = floorDiv(s, 86400);

@@ -20,6 +20,9 @@ struct CalendarTime {
 constexpr qint64 kSecondsFrom1970To2000 = 946684800;
 
 CalendarTime fromSeconds(qint64 secondsSince2000);
+// Like toSeconds, but fields out of range roll over into the next larger unit (month 13 is
+// January of the next year, day 0 the last day of the month before).
+qint64 serialSeconds(int year, int month, int day, int hour, int minute, int second);
 qint64 toSeconds(const CalendarTime& time);
 inline qint64 fromUnixSeconds(qint64 secondsSince1970) {
     return secondsSince1970 - kSecondsFrom1970To2000;

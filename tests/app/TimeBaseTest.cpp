@@ -43,3 +43,12 @@ TEST(TimeBase, ParsesIsoTextAndRefusesNonsense) {
 }
 
 } // namespace
+
+TEST(TimeBase, SerialSecondsRollsOver) {
+    using TimeBase::isoText;
+    using TimeBase::serialSeconds;
+    EXPECT_EQ(isoText(serialSeconds(2023, 13, 1, 0, 0, 0)), QLatin1String("2024-01-01 00:00:00"));
+    EXPECT_EQ(isoText(serialSeconds(2024, 3, 0, 0, 0, 0)), QLatin1String("2024-02-29 00:00:00"));
+    EXPECT_EQ(isoText(serialSeconds(2024, 1, 31, 24, 0, 60)), QLatin1String("2024-02-01 00:01:00"));
+    EXPECT_EQ(isoText(serialSeconds(2024, 0, 1, 0, 0, 0)), QLatin1String("2023-12-01 00:00:00"));
+}

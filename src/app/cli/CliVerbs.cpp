@@ -1,18 +1,14 @@
 #include "app/cli/CliVerbs.h"
 
-#include <iterator>
-
 namespace Cli {
 
-namespace {
-const Verb kVerbs[] = {
-    {"", nullptr}, // placeholder until the first verb lands
-};
-} // namespace
+extern const Verb kDumpVerb;
+extern const Verb kInfoVerb;
 
 const Verb* findVerb(const QString& name) {
-    for (const Verb& verb : kVerbs)
-        if (verb.run && name == QLatin1String(verb.name)) return &verb;
+    static const Verb* const kVerbs[] = {&kDumpVerb, &kInfoVerb};
+    for (const Verb* verb : kVerbs)
+        if (name == QLatin1String(verb->name)) return verb;
     return nullptr;
 }
 

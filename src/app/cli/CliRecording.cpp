@@ -1,0 +1,63 @@
+#include "app/cli/CliRecording.h"
+
+#include "recording/CommandFiles.h"
+#include "recording/FamilyCodes.h"
+#include "recording/FileRecognition.h"
+#include "recording/SelectionLists.h"
+
+#include <QTextStream>
+
+namespace Cli {
+
+QString messageText(int number) { return QStringLiteral("message %1").arg(number); }
+
+RecordingArgs splitRecordingArgs(const QStringList& args) {
+    RecordingArgs out;
+    for (int i = 0; i < args.size(); ++i) {
+        const QString& a = args[i];
+        if (a == QLatin1String("--gs")) out.gsMode = true;
+        else if (a.startsWith(QLatin1String("--"))) {
+            out.rest << a;
+            if (i + 1 < args.size() && !args[i + 1].startsWith(QLatin1String("--")) &&
+                a != QLatin1String("--json"))
+                out.rest << args[++i];
+        } else out.files << a;
+    }
+    return out;
+}
+
+ViewTables* openRecording(const RecordingArgs& args) {
+    QTextStream err(stderr);
+    SelectionLists& sel = selection();
+    sel.clear();
+    if (args.files.size() == 1 && FileRecognition::extensionOf(args.files[0]) == QLatin1String(".CSV")) {
+        sel.append(args.files[0], 0, 0);
+        sel.SelFileType = Family::CSV;
+    } else {
+        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(args.files), args.gsMode);
+    }
+    if (sel.SelFileCount == 0) {
+        err << messageText(561) << "\n";
+        return nullptr;
+    }
+    ViewTables& view = views(1);
+    copySelectionToView(view);
+    NoProgress progress;
+    LoadOptions options;
+    options.gsMode = args.gsMode;
+    options.progress = &progress;
+    const LoadOutcome outcome = LoadRecording(view, options);
+    if (outcome.status == LoadOutcome::Status::NotHandled) {
+        err << "recview: " << args.files.value(0) << ": a saved trend archive, not a recording\n";
+        return nullptr;
+    }
+    if (!outcome.ok()) {
+        err << messageText(outcome.message);
+        if (!outcome.detail.isEmpty()) err << "\n" << outcome.detail;
+        err << "\n";
+        return nullptr;
+    }
+    return &view;
+}
+
+} // namespace Cli

@@ -1,0 +1,51 @@
+#include "recording/FileBytes.h"
+
+#include "recording/Cp932.h"
+
+#include <cstring>
+
+quint16 FileBytes::ReadU16Le(qint64 o) const {
+    require(o, 2);
+    return quint16(data_[o] | data_[o + 1] << 8);
+}
+
+quint16 FileBytes::ReadU16Be(qint64 o) const {
+    require(o, 2);
+    return quint16(data_[o] << 8 | data_[o + 1]);
+}
+
+quint32 FileBytes::ReadU32Le(qint64 o) const {
+    require(o, 4);
+    return quint32(data_[o]) | quint32(data_[o + 1]) << 8 | quint32(data_[o + 2]) << 16 |
+           quint32(data_[o + 3]) << 24;
+}
+
+quint32 FileBytes::ReadU32Be(qint64 o) const {
+    require(o, 4);
+    return quint32(data_[o]) << 24 | quint32(data_[o + 1]) << 16 | quint32(data_[o + 2]) << 8 |
+           quint32(data_[o + 3]);
+}
+
+float FileBytes::ReadF32Le(qint64 o) const {
+    const quint32 bits = ReadU32Le(o);
+    float f;
+    std::memcpy(&f, &bits, sizeof f);
+    return f;
+}
+
+QString FileBytes::ReadText(qint64 offset, qint64 length) const {
+    require(offset, length);
+    QByteArray bytes;
+    bytes.reserve(length);
+    for (qint64 i = 0; i < length; ++i)
+        if (data_[offset + i] != 0) bytes.append(char(data_[offset + i]));
+    QString text = Cp932::decode(bytes);
+    qsizetype end = text.size();
+    while (end > 0 && text.at(end - 1) == QLatin1Char(' ')) --end;
+    text.truncate(end);
+    return text;
+}
+
+QByteArray FileBytes::magic() const {
+    return size_ >= 4 ? QByteArray(reinterpret_cast<const char*>(data_), 4) : QByteArray();
+}

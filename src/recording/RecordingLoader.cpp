@@ -1,0 +1,192 @@
+#include "recording/RecordingLoader.h"
+
+#include "recording/FamilyCodes.h"
+#include "recording/FamilyHeads.h"
+#include "recording/FileRecognition.h"
+#include "recording/FormatReader.h"
+#include "recording/RowPlacement.h"
+#include "recording/SelectionLists.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+QHash<QString, FamilyLoader>& familyLoaders() {
+    static QHash<QString, FamilyLoader> loaders;
+    return loaders;
+}
+
+// Reads a whole file with one call.
+bool readWhole(const QString& path, QByteArray& out) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    out.resize(file.size());
+    return file.read(out.data(), out.size()) == out.size();
+}
+
+class CoreReader {
+public:
+    CoreReader(ViewTables& view, const LoadOptions& options) : view_(view), options_(options) {}
+    void run();
+
+private:
+    void readFile(int index);
+    void setUpView(const FormatReader& reader, int format);
+    void poll(int fileIndex, qint64 row, qint64 rows);
+
+    ViewTables& view_;
+    const LoadOptions& options_;
+    QVector<int> fileChannels_;
+
+public:
+    int firstFormat = -1;
+    int channelTotal = 0;
+    bool channelsKnown = false; // a failure from here on reports the channel count
+};
+
+void CoreReader::poll(int fileIndex, qint64 row, qint64 rows) {
+    if (options_.progress) {
+        const int share = int((fileIndex + double(row) / std::max<qint64>(rows, 1)) * 50 /
+                              std::max(view_.FileCount, 1));
+        options_.progress->setValue(share);
+        if (options_.progress->poll()) view_.ViewCancel = true;
+    }
+    if (view_.ViewCancel) {
+        view_.ViewCancel = false;
+        if (options_.confirmCancel()) throw LoadCancelled();
+    }
+}
+
+void CoreReader::setUpView(const FormatReader& reader, int format) {
+    view_.Storage.Action(28);
+    view_.ViewStart = reader.startTime();
+    const bool noMsec = format == Format::QDF || format == Format::TM6 || format == Format::TM12;
+    view_.ViewStartMsec = noMsec ? 0 : reader.startMsec();
+    view_.SampleInterval = reader.intervalMs();
+}
+
+void CoreReader::readFile(int index) {
+    poll(index, 0, 1);
+    QByteArray data;
+    if (!readWhole(view_.FileName[index], data)) throw ReadPastEnd();
+    const FileBytes bytes(std::move(data));
+    if (index == 0) {
+        view_.ViewTitle = QFileInfo(view_.FileName[0]).fileName();
+        view_.ColorMapMagic = QString::fromLatin1(bytes.magic().left(3));
+    }
+    view_.FileMagic = QString::fromLatin1(bytes.magic());
+    const int format = formatOfMagic(bytes.magic(), options_.gsMode);
+    auto reader = makeFormatReader(format);
+    FileLoad load{view_, bytes, index, options_.gsMode,
+                  [this, index](qint64 row, qint64 rows) { poll(index, row, rows); }};
+    reader->readHead(load);
+    if (index == 0) {
+        firstFormat = format;
+        setUpView(*reader, format);
+    }
+    view_.FileStart[index] = reader->startTime();
+    view_.FileStartMsec[index] = reader->startMsec();
+
+    reader->readMessages(load);
+    view_.BatchTexts.append(reader->batchText());
+    fileChannels_.append(reader->channelCount());
+    const int base = RowPlacement::channelBase(view_.BatchTexts, fileChannels_, index);
+    reader->fillChannels(load, base);
+    channelsKnown = true;
+    reader->readAlarmHistory(load);
+
+    qint64 offset = FileJoinByOrder == 1
+                        ? view_.Storage.DataRowCnt()
+                        : RowPlacement::offsetByTime(view_.ViewStart, reader->startTime(),
+                                                     view_.SampleInterval);
+    if (FileJoinByOrder != 1 && (format == Format::TM6 || format == Format::TM12))
+        offset = RowPlacement::tmTolerance(offset, view_.Storage.DataRowCnt(), view_.SampleInterval);
+    const qint64 lastRow = offset + reader->rowCount();
+    if (lastRow > INT32_MAX - 1) throw ReadPastEnd();
+    if (lastRow > view_.Storage.MaxRows()) view_.Storage.setMaxRows(int(lastRow));
+    channelTotal = std::max(channelTotal, std::min(MaxChannels, base + reader->channelCount()));
+    if (2 * channelTotal > view_.Storage.MaxCols()) view_.Storage.setMaxCols(2 * channelTotal);
+    reader->readSamples(load, base, offset);
+}
+
+void CoreReader::run() {
+    view_.FileStart.resize(view_.FileCount);
+    view_.FileStartMsec.resize(view_.FileCount);
+    for (int i = 0; i < view_.FileCount; ++i) readFile(i);
+}
+
+void resetView(ViewTables& view) {
+    view.clearRecording();
+    view.Loading = false;
+}
+
+} // namespace
+
+void registerFamilyLoader(const QString& key, FamilyLoader loader) { familyLoaders()[key] = loader; }
+
+void copySelectionToView(ViewTables& view) {
+    const SelectionLists& sel = selection();
+    view.FileCount = sel.SelFileCount;
+    view.FileName = sel.SelFileName;
+    view.FileStart = sel.SelStart;
+    view.FileStartMsec = sel.SelStartMsec;
+    view.FileInterval = sel.SelInterval;
+    view.FileType = sel.SelFileType;
+}
+
+void finishLoad(ViewTables& view, bool firstIsVxf) {
+    clsStorage& s = view.Storage;
+    const int total = s.MaxRows();
+    view.PointCount = total;
+    view.ViewShownPoints = firstIsVxf && view.AlarmEvents.any() && total < MinPointsVXF
+                               ? MinPointsVXF
+                               : total;
+    view.ViewRowCount = qint16(std::min(total, MaxRowsShown));
+    view.ChannelCount = qint16(s.MaxCols() / 2);
+    view.ChannelCountOrig = view.ChannelCount;
+    if (s.MaxCols() < MaxStoreCols) s.setMaxCols(MaxStoreCols);
+    s.setDataColCnt(2 * view.ChannelCount);
+    s.squeeze();
+}
+
+LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options) {
+    LoadOutcome outcome;
+    if (view.FileCount < 1 || view.FileName.isEmpty()) return {LoadOutcome::Status::NotHandled, 0, {}};
+    const QString ext = FileRecognition::extensionOf(view.FileName.first());
+    if (ext == QLatin1String(".VXB")) return {LoadOutcome::Status::NotHandled, 0, {}};
+    const QString key = view.FileType == Family::CSV ? QStringLiteral("CSV") : ext;
+    if (FamilyLoader loader = familyLoaders().value(key)) return loader(view, options);
+
+    view.clearRecording();
+    view.Loading = true;
+    view.ViewCancel = false;
+    CoreReader reader(view, options);
+    try {
+        reader.run();
+    } catch (const LoadCancelled&) {
+        resetView(view);
+        return {LoadOutcome::Status::Cancelled, 0, {}};
+    } catch (const std::bad_alloc&) {
+        resetView(view);
+        return {LoadOutcome::Status::Failed, 560, {}};
+    } catch (...) {
+        resetView(view);
+        if (reader.channelsKnown)
+            return {LoadOutcome::Status::Failed, 587,
+                    QStringLiteral("CHCount = %1").arg(reader.channelTotal)};
+        return {LoadOutcome::Status::Failed, 560, {}};
+    }
+    finishLoad(view, reader.firstFormat == Format::VXF);
+    view.Loading = false;
+    if (view.PointCount == 0) {
+        resetView(view);
+        return {LoadOutcome::Status::Empty, 578, {}};
+    }
+    view.Loaded = true;
+    return outcome;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/Progress.h"
+#include "recording/ViewTables.h"
+
+#include <QString>
+
+#include <functional>
+
+// The result of loading a view's files. The caller shows the message, if any.
+struct LoadOutcome {
+    enum class Status { Loaded, Empty, Failed, Cancelled, NotHandled };
+    Status status = Status::Loaded;
+    int message = 0;   // 560, 587 (with detail), 578 for an empty recording
+    QString detail;    // "CHCount = " n behind message 587
+    bool ok() const { return status == Status::Loaded; }
+};
+
+struct LoadOptions {
+    bool gsMode = false;
+    Progress* progress = nullptr; // polled between files and rows
+    // Asked when the user pressed cancel; true stops the load.
+    std::function<bool()> confirmCancel = [] { return true; };
+};
+
+// Hands a loader for the families that have their own (JLM, CSV) to the core reader.
+using FamilyLoader = LoadOutcome (*)(ViewTables& view, const LoadOptions& options);
+void registerFamilyLoader(const QString& key, FamilyLoader loader); // key ".JLM" or "CSV"
+
+// Copies the selection into the view's file list.
+void copySelectionToView(ViewTables& view);
+
+// Reads the view's files into its store: the core reader with its file loop, joining by batch
+// text and by time or order. On any failure the view is left empty.
+LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options);
+
+// The end of every load: row counts, shown points and channel counts from the store.
+void finishLoad(ViewTables& view, bool firstIsVxf);

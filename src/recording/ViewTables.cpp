@@ -1,0 +1,40 @@
+#include "recording/ViewTables.h"
+
+#include "recording/SelectionLists.h"
+
+#include <array>
+#include <memory>
+
+void ViewTables::clearRecording() {
+    Storage.Action(28);
+    DataProperty = clsDataFileProperty();
+    FileMagic.clear();
+    ColorMapMagic.clear();
+    BatchTexts.clear();
+    Loaded = false;
+    NoDataFlag = false;
+    IrregularTime = false;
+    PointCount = 0;
+    ViewShownPoints = 0;
+    ViewRowCount = 0;
+    ChannelCount = 0;
+    ChannelCountOrig = 0;
+    SampleInterval = 0;
+    ViewStart = 0;
+    ViewStartMsec = 0;
+    AlarmEvents.clear();
+    ViewMessages.clear();
+    Channels.clear();
+}
+
+ViewTables& views(int viewNumber) {
+    static std::array<std::unique_ptr<ViewTables>, MaxViews> tables;
+    const size_t i = size_t(qBound(1, viewNumber, MaxViews) - 1);
+    if (!tables[i]) tables[i] = std::make_unique<ViewTables>();
+    return *tables[i];
+}
+
+SelectionLists& selection() {
+    static SelectionLists lists;
+    return lists;
+}

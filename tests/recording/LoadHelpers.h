@@ -1,0 +1,24 @@
+#pragma once
+
+#include "recording/CommandFiles.h"
+#include "recording/RecordingLoader.h"
+#include "recording/RowPlacement.h"
+#include "recording/SelectionLists.h"
+
+#include <QStringList>
+
+// Opens files as the command line does into view 1 and loads them.
+inline LoadOutcome loadFiles(const QStringList& paths, bool gsMode = false) {
+    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(paths), gsMode);
+    ViewTables& view = views(1);
+    copySelectionToView(view);
+    LoadOptions options;
+    options.gsMode = gsMode;
+    return LoadRecording(view, options);
+}
+
+inline QString cellText(int col, int row, int view = 1) {
+    QString t;
+    views(view).Storage.GetText(col, row, t);
+    return t;
+}
