@@ -1,25 +1,22 @@
 #include "recording/RecordingLoader.h"
 
 #include "recording/FamilyCodes.h"
+#include "recording/CsvLoader.h"
 #include "recording/FamilyHeads.h"
 #include "recording/FileRecognition.h"
 #include "recording/FormatReader.h"
+#include "recording/JlmLoader.h"
+#include "recording/MsgFiles.h"
 #include "recording/RowPlacement.h"
 #include "recording/SelectionLists.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 
 #include <algorithm>
 #include <new>
 
 namespace {
-
-QHash<QString, FamilyLoader>& familyLoaders() {
-    static QHash<QString, FamilyLoader> loaders;
-    return loaders;
-}
 
 // Reads a whole file with one call.
 bool readWhole(const QString& path, QByteArray& out) {
@@ -118,6 +115,7 @@ void CoreReader::run() {
     view_.FileStart.resize(view_.FileCount);
     view_.FileStartMsec.resize(view_.FileCount);
     for (int i = 0; i < view_.FileCount; ++i) readFile(i);
+    ReadMsgFiles(view_);
 }
 
 void resetView(ViewTables& view) {
@@ -126,8 +124,6 @@ void resetView(ViewTables& view) {
 }
 
 } // namespace
-
-void registerFamilyLoader(const QString& key, FamilyLoader loader) { familyLoaders()[key] = loader; }
 
 void copySelectionToView(ViewTables& view) {
     const SelectionLists& sel = selection();
@@ -159,8 +155,8 @@ LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options) {
     if (view.FileCount < 1 || view.FileName.isEmpty()) return {LoadOutcome::Status::NotHandled, 0, {}};
     const QString ext = FileRecognition::extensionOf(view.FileName.first());
     if (ext == QLatin1String(".VXB")) return {LoadOutcome::Status::NotHandled, 0, {}};
-    const QString key = view.FileType == Family::CSV ? QStringLiteral("CSV") : ext;
-    if (FamilyLoader loader = familyLoaders().value(key)) return loader(view, options);
+    if (view.FileType == Family::CSV) return LoadFileDataCsv(view, options);
+    if (ext == QLatin1String(".JLM")) return LoadJlm(view, options);
 
     view.clearRecording();
     view.Loading = true;

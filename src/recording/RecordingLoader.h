@@ -23,10 +23,6 @@ struct LoadOptions {
     std::function<bool()> confirmCancel = [] { return true; };
 };
 
-// Hands a loader for the families that have their own (JLM, CSV) to the core reader.
-using FamilyLoader = LoadOutcome (*)(ViewTables& view, const LoadOptions& options);
-void registerFamilyLoader(const QString& key, FamilyLoader loader); // key ".JLM" or "CSV"
-
 // Copies the selection into the view's file list.
 void copySelectionToView(ViewTables& view);
 

@@ -1,0 +1,3 @@
+#include "recording/JlmLoader.h"
+
+LoadOutcome LoadJlm(ViewTables&, const LoadOptions&) { return {LoadOutcome::Status::NotHandled, 0, {}}; }

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "recording/RecordingLoader.h"
+
+// JLM files have a reader of their own beside the core reader.
+LoadOutcome LoadJlm(ViewTables& view, const LoadOptions& options);

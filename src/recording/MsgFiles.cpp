@@ -1,0 +1,3 @@
+#include "recording/MsgFiles.h"
+
+void ReadMsgFiles(ViewTables&) {}

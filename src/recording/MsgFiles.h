@@ -1,0 +1,6 @@
+#pragma once
+
+#include "recording/ViewTables.h"
+
+// Reads the MSG files of the view's message list into its messages, after the data files.
+void ReadMsgFiles(ViewTables& view);
