@@ -41,6 +41,27 @@ QString decodeCp932(const QByteArray& bytes) {
 
 } // namespace
 
+QByteArray encodeCp932(const QString& text) {
+    QByteArray out;
+    iconv_t cd = iconv_open("CP932", "UTF-8");
+    if (cd == reinterpret_cast<iconv_t>(-1)) return text.toLatin1();
+    for (const char32_t ch : text.toUcs4()) {
+        QByteArray in = QString::fromUcs4(&ch, 1).toUtf8();
+        char buf[8];
+        char* inPtr = in.data();
+        size_t inLeft = static_cast<size_t>(in.size());
+        char* outPtr = buf;
+        size_t outLeft = sizeof buf;
+        iconv(cd, nullptr, nullptr, nullptr, nullptr);
+        if (iconv(cd, &inPtr, &inLeft, &outPtr, &outLeft) == static_cast<size_t>(-1))
+            out.append('?');
+        else
+            out.append(buf, outPtr - buf);
+    }
+    iconv_close(cd);
+    return out;
+}
+
 QString decodeLocalText(const QByteArray& bytes) {
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = utf8.decode(bytes);

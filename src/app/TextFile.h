@@ -11,6 +11,9 @@ namespace TextFile {
 // otherwise cp932, the code page of older files and of the recorders.
 QString decodeLocalText(const QByteArray& bytes);
 
+// Encodes a text as cp932; a character that cp932 cannot hold becomes "?".
+QByteArray encodeCp932(const QString& text);
+
 // Splits a text into lines at LF, dropping a CR before it; a final empty line is left out.
 QStringList splitLines(const QString& text);
 

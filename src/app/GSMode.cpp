@@ -1,0 +1,35 @@
+#include "app/GSMode.h"
+
+#include "app/AppPaths.h"
+#include "app/PathChecks.h"
+#include "app/clsCommon.h"
+#include "app/clsLibrary.h"
+
+GSModeState& GSMode() {
+    static GSModeState state;
+    return state;
+}
+
+int selectOperationMode() {
+    GSModeState& gs = GSMode();
+    gs.GSModePath = AppPaths(0);
+    clsCommon::shared().setOperationMode(0);
+    if (FileExists(AppPaths(0) + gs.GSModeFileName)) clsCommon::shared().setOperationMode(34);
+    if (clsCommon::shared().OperationMode() == 34) {
+        gs.GSTitleSuffix = QStringLiteral(" MOVRA for GS");
+        QString title;
+        bool found = false;
+        clsLibrary::getFileParam(QStringLiteral("frmMain"), QStringLiteral("Title"), title, found);
+        gs.GSMainTitle = title;
+    } else {
+        gs.GSTitleSuffix.clear();
+    }
+    return clsCommon::shared().OperationMode();
+}
+
+QString mainWindowTitle(const QString& normalTitle) {
+    const GSModeState& gs = GSMode();
+    if (clsCommon::shared().OperationMode() == 34 && !gs.GSMainTitle.isEmpty())
+        return gs.GSMainTitle;
+    return normalTitle;
+}

@@ -1,0 +1,114 @@
+#include "app/StartFiles.h"
+
+#include "app/AppPaths.h"
+#include "app/PathChecks.h"
+#include "app/TextFile.h"
+#include "app/VbFormat.h"
+
+#include <QFile>
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+std::array<QString, 10>& groupNames() {
+    static std::array<QString, 10> names;
+    return names;
+}
+
+std::array<int, 10>& pointsA() {
+    static std::array<int, 10> a{};
+    return a;
+}
+
+std::array<int, 10>& pointsB() {
+    static std::array<int, 10> b{};
+    return b;
+}
+
+QString workFile(const char* name) {
+    return AppPaths(3) + QLatin1String(name);
+}
+
+// A field read as a 32-bit integer the way the runtime converts text: trimmed, decimals
+// rounded halves to even; false for anything else.
+bool toInt32(const QString& text, int& value) {
+    bool ok = false;
+    const double d = text.trimmed().toDouble(&ok);
+    if (!ok || !std::isfinite(d)) return false;
+    const qint64 rounded = VbFormat::roundHalfEven(d);
+    if (rounded < std::numeric_limits<int>::min() || rounded > std::numeric_limits<int>::max())
+        return false;
+    value = int(rounded);
+    return true;
+}
+
+} // namespace
+
+QString GroupNames(int group) {
+    return group >= 1 && group <= 10 ? groupNames()[group - 1] : QString();
+}
+
+void setGroupName(int group, const QString& name) {
+    if (group >= 1 && group <= 10) groupNames()[group - 1] = name;
+}
+
+void LoadGroupNames() {
+    QStringList lines;
+    const QString path = workFile("GName.ini");
+    if (FileExists(path) && !TextFile::readLines(path, lines)) return;
+    if (lines.isEmpty()) {
+        SaveGroupNames(true);
+        return;
+    }
+    for (int i = 0; i < lines.size() && i < 10; ++i) groupNames()[i] = lines[i].trimmed();
+}
+
+void SaveGroupNames(bool resetToDefault) {
+    if (resetToDefault)
+        for (int group = 1; group <= 10; ++group) setGroupName(group, defaultGroupName(group));
+    const QStringList lines(groupNames().begin(), groupNames().end());
+    TextFile::writeLines(workFile("GName.ini"), lines);
+}
+
+int ShowPointsA(int index) {
+    return index >= 0 && index < 10 ? pointsA()[index] : 0;
+}
+
+int ShowPointsB(int index) {
+    return index >= 0 && index < 10 ? pointsB()[index] : 0;
+}
+
+void LoadShowPoints() {
+    QStringList lines;
+    if (!FileExists(workFile("ShowPoints.ini"))) return;
+    if (!TextFile::readLines(workFile("ShowPoints.ini"), lines)) return;
+    for (int n = 0; n < lines.size() && n < 10; ++n) {
+        const QStringList fields = lines[n].split(QLatin1Char(','));
+        int a = 0;
+        int b = 0;
+        if (fields.size() < 2 || !toInt32(fields[0], a) || !toInt32(fields[1], b)) return;
+        pointsA()[n] = a;
+        pointsB()[n] = b;
+    }
+}
+
+QString ReadLastDirectory() {
+    QStringList lines;
+    QString last;
+    if (TextFile::readLines(workFile("DPASS.ini"), lines))
+        for (const QString& line : lines)
+            if (!line.trimmed().isEmpty()) last = line.trimmed();
+    return last.isEmpty() ? AppPaths(0) : last;
+}
+
+void SaveLastDirectory(const QString& path) {
+    TextFile::writeLines(workFile("DPASS.ini"), {path});
+}
+
+void removeStaleClickFile() {
+    const QString path = AppPaths(4) + QStringLiteral("D_Click.ini");
+    if (FileExists(path)) QFile::remove(path);
+}
