@@ -14,6 +14,10 @@ function(recview_test name dir)
     file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${dir}/*.cpp)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE recview_test_support ${ARG_DEPS} GTest::gtest GTest::gmock)
+    # Files shipped beside the program are looked for beside the test program too.
+    add_custom_command(TARGET ${name} POST_BUILD
+        COMMAND ${CMAKE_COMMAND} -E copy_if_different ${PROJECT_SOURCE_DIR}/data/langVX.txt
+                $<TARGET_FILE_DIR:${name}>/langVX.txt)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
                                             WORKING_DIRECTORY ${PROJECT_BINARY_DIR})

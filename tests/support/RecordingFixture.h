@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include "support/QtPrinters.h"
+
 // A temporary folder for recorder files written by the fixture writers.
 class FixtureDir {
 public:

@@ -1,5 +1,6 @@
 #include "app/cli/CliRecording.h"
 
+#include "app/LanguageTable.h"
 #include "recording/CommandFiles.h"
 #include "recording/FamilyCodes.h"
 #include "recording/FileRecognition.h"
@@ -9,7 +10,7 @@
 
 namespace Cli {
 
-QString messageText(int number) { return QStringLiteral("message %1").arg(number); }
+QString messageText(int number) { return MsgText(number); }
 
 RecordingArgs splitRecordingArgs(const QStringList& args) {
     RecordingArgs out;
