@@ -1,0 +1,140 @@
+#include "platform/ChartAxis.h"
+
+#include "platform/AxisScale.h"
+#include "platform/ChartModel.h"
+
+void ValueLabels::add(double value, const QString& text, const QColor& color) {
+    items_.push_back({value, text, color});
+}
+
+bool ValueLabels::removeByValue(double value) {
+    const auto old = items_.size();
+    std::erase_if(items_, [value](const ValueLabel& label) { return label.value == value; });
+    return items_.size() != old;
+}
+
+ChartAxis::ChartAxis(ChartModel* model, Chart::Axis id) : model_(model), id_(id) {
+    gridShown_ = id != Chart::Axis::Y2;
+    shown_ = id != Chart::Axis::Y2;
+    titleRotation_ = id == Chart::Axis::X ? 0 : 90;
+}
+
+void ChartAxis::changed() {
+    model_->touch();
+}
+
+double ChartAxis::min() const {
+    return minAuto_ ? model_->automaticScale(id_).min : min_;
+}
+double ChartAxis::max() const {
+    return maxAuto_ ? model_->automaticScale(id_).max : max_;
+}
+
+void ChartAxis::setMin(double value) {
+    min_ = value;
+    minAuto_ = false;
+    changed();
+}
+
+void ChartAxis::setMax(double value) {
+    max_ = value;
+    maxAuto_ = false;
+    changed();
+}
+
+void ChartAxis::setMinAuto(bool on) {
+    minAuto_ = on;
+    changed();
+}
+
+void ChartAxis::setMaxAuto(bool on) {
+    maxAuto_ = on;
+    changed();
+}
+
+double ChartAxis::labelInterval() const {
+    if (!labelIntervalAuto_) return labelInterval_;
+    if (minAuto_ && maxAuto_) return model_->automaticScale(id_).step;
+    return AxisScale::forRange(min(), max(), logarithmic_, id_ == Chart::Axis::X).step;
+}
+
+void ChartAxis::setLabelInterval(double value) {
+    labelInterval_ = value;
+    labelIntervalAuto_ = false;
+    changed();
+}
+
+void ChartAxis::setLabelIntervalAuto(bool on) {
+    labelIntervalAuto_ = on;
+    changed();
+}
+
+void ChartAxis::setSubGridInterval(double value) {
+    subGridInterval_ = value;
+    changed();
+}
+
+void ChartAxis::setReversed(bool on) {
+    reversed_ = on;
+    changed();
+}
+
+void ChartAxis::setLogarithmic(bool on) {
+    logarithmic_ = on;
+    model_->dataChanged(); // the automatic range changes with the mapping
+}
+
+void ChartAxis::setShown(bool on) {
+    shown_ = on;
+    changed();
+}
+
+void ChartAxis::setLabelsShown(bool on) {
+    labelsShown_ = on;
+    changed();
+}
+
+void ChartAxis::setGridShown(bool on) {
+    gridShown_ = on;
+    changed();
+}
+
+void ChartAxis::setLabelMethod(Chart::LabelMethod method) {
+    labelMethod_ = method;
+    changed();
+}
+
+void ChartAxis::setPrecision(int decimals) {
+    precision_ = decimals;
+    changed();
+}
+
+ValueLabels& ChartAxis::valueLabels() {
+    changed();
+    return valueLabels_;
+}
+
+void ChartAxis::setTitle(const QString& text) {
+    title_ = text;
+    changed();
+}
+
+void ChartAxis::setTitleFont(const QFont& font) {
+    titleFont_ = font;
+    changed();
+}
+
+void ChartAxis::setTitleRotation(int degrees) {
+    titleRotation_ = degrees;
+    changed();
+}
+
+void ChartAxis::setFont(const QFont& font) {
+    font_ = font;
+    changed();
+}
+
+void ChartAxis::setLabelColor(const QColor& color) {
+    labelColor_ = color;
+    changed();
+}
