@@ -60,16 +60,19 @@ void clsINI::report(const QString& mark, const QString& description) {
     LogWrite(QStringLiteral("clsINI Exception error :") + text);
 }
 
+bool clsINI::load(IniDocument& doc, const QString& mark) {
+    QString error;
+    if (doc.load(filePath(), &error)) return true;
+    report(mark, error);
+    return false;
+}
+
 void clsINI::getIniData(const QString& section, const QString& key, const QString& defaultValue,
                         bool noWriteBack, QString& result) {
     lastSection_ = section;
     lastKey_ = key;
     IniDocument doc;
-    QString error;
-    if (!doc.load(filePath(), &error)) {
-        report(kMarkGet, error);
-        return;
-    }
+    if (!load(doc, kMarkGet)) return;
     // What the profile read gives: the stored value, or the default for an absent or empty
     // key, cut to the buffer.
     const std::optional<QString> stored = doc.value(section, key);
@@ -100,23 +103,16 @@ void clsINI::putIniData(const QString& section, const QString& key, const QVaria
     const QString text = iniValueText(value);
     lastValue_ = text;
     IniDocument doc;
-    QString error;
-    if (!doc.load(filePath(), &error)) {
-        report(kMarkPut, error);
-        return;
-    }
+    if (!load(doc, kMarkPut)) return;
     doc.setValue(section, key, text);
+    QString error;
     if (!doc.save(filePath(), &error)) report(kMarkPut, error);
 }
 
 int clsINI::enumSectionString(const QString& section, QStringList& lines) {
     lastSection_ = section;
     IniDocument doc;
-    QString error;
-    if (!doc.load(filePath(), &error)) {
-        report(kMarkEnum, error);
-        return -1;
-    }
+    if (!load(doc, kMarkEnum)) return -1;
     // The platform's section read has one buffer of 32767 characters, NUL-separated.
     constexpr int kSectionBuffer = 32767;
     lines.clear();

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QVariant>
 
+class IniDocument;
 class LogObject;
 
 // One settings file of the INI kind. A caller makes one, sets the directory and the name, then
@@ -62,6 +63,8 @@ public:
 
 private:
     void report(const QString& mark, const QString& description);
+    // Reads the file into `doc`; a failure is reported under `mark`.
+    bool load(IniDocument& doc, const QString& mark);
 
     QString iniPath_;
     QString iniFileName_;
