@@ -5,7 +5,6 @@ CMAKE_FLAGS ?=
 JOBS        ?= 2
 # Builds take a lock so that several checkouts or agents never compile at once on a small machine.
 LOCK        := flock /tmp/recview-build.lock
-SAMPLES     := $(wildcard data/samples/*.vxf) $(wildcard data/samples/*.VXF)
 
 .PHONY: run test test-asan bench fuzz deps configure build
 
@@ -19,7 +18,7 @@ build: configure
 	@$(LOCK) cmake --build $(BUILD_DIR) -j $(JOBS)
 
 run: build
-	$(BUILD_DIR)/recview $(SAMPLES)
+	$(BUILD_DIR)/recview $(wildcard $(BUILD_DIR)/samples/*.vxf)
 
 test: build
 	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)

@@ -1,5 +1,7 @@
 #include "recording/RecordingLoader.h"
 
+#include "app/LanguageTable.h"
+
 #include "recording/FamilyCodes.h"
 #include "recording/CsvLoader.h"
 #include "recording/FamilyHeads.h"
@@ -169,19 +171,19 @@ LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options) {
         return {LoadOutcome::Status::Cancelled, 0, {}};
     } catch (const std::bad_alloc&) {
         resetView(view);
-        return {LoadOutcome::Status::Failed, 560, {}};
+        return {LoadOutcome::Status::Failed, MsgId(560), {}};
     } catch (...) {
         resetView(view);
         if (reader.channelsKnown)
-            return {LoadOutcome::Status::Failed, 587,
+            return {LoadOutcome::Status::Failed, MsgId(587),
                     QStringLiteral("CHCount = %1").arg(reader.channelTotal)};
-        return {LoadOutcome::Status::Failed, 560, {}};
+        return {LoadOutcome::Status::Failed, MsgId(560), {}};
     }
     finishLoad(view, reader.firstFormat == Format::VXF);
     view.Loading = false;
     if (view.PointCount == 0) {
         resetView(view);
-        return {LoadOutcome::Status::Empty, 578, {}};
+        return {LoadOutcome::Status::Empty, MsgId(578), {}};
     }
     view.Loaded = true;
     return outcome;

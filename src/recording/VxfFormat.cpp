@@ -131,7 +131,9 @@ void VxfFormat::readSamples(const FileLoad& load, int channelBase, qint64 rowOff
     const bool pair = head_.DataMode == 4;
     const qint64 rowBytes = columns * (pair ? 3 : 4);
     const qint64 rows = head_.RowCount;
-    b.require(head_.DataOffset, rowBytes * rows);
+    // Checked by division: a corrupt count must not overflow or allocate beyond the file.
+    b.require(head_.DataOffset, 0);
+    if (rows > 0 && rowBytes > (b.size() - head_.DataOffset) / rows) throw ReadPastEnd();
     const qint64 firstFileRow = std::max<qint64>(1, 1 - rowOffset);
     if (firstFileRow > rows) return;
     const int first = int(rowOffset + firstFileRow), last = int(rowOffset + rows);

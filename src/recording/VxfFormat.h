@@ -3,6 +3,8 @@
 #include "recording/FamilyHeads.h"
 #include "recording/FormatReader.h"
 
+#include <algorithm>
+
 // The VX family's file (narrow and wide layouts, all data modes).
 class VxfFormat final : public FormatReader {
 public:
@@ -11,7 +13,8 @@ public:
     int startMsec() const override { return head_.StartTenths * 100; }
     qint32 intervalMs() const override { return qint32(head_.Interval * 100); }
     QString batchText() const override { return batchText_; }
-    int channelCount() const override { return int(head_.columns()); }
+    // A corrupt count cannot exceed what a row of the file could hold.
+    int channelCount() const override { return int(std::min<qint64>(head_.columns(), 1 << 20)); }
     qint64 rowCount() const override { return head_.RowCount; }
 
     void readMessages(const FileLoad& load) override;
