@@ -23,6 +23,13 @@ void ChartAxis::changed() {
     model_->touch();
 }
 
+void ChartAxis::assignSettings(const ChartAxis& other) {
+    ChartModel* model = model_;
+    *this = other;
+    model_ = model;
+    model_->dataChanged();
+}
+
 double ChartAxis::min() const {
     return minAuto_ ? model_->automaticScale(id_).min : min_;
 }

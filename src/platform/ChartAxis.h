@@ -38,6 +38,8 @@ private:
 class ChartAxis {
 public:
     ChartAxis(ChartModel* model, Chart::Axis id);
+    // Every setting of another axis; this one stays with its own model.
+    void assignSettings(const ChartAxis& other);
 
     Chart::Axis id() const { return id_; }
 

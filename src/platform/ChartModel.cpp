@@ -250,6 +250,22 @@ SeriesStatistics ChartModel::statistics(int s, qsizetype firstPoint, qsizetype l
     return series(s).statistics(firstPoint - 1, lastPoint - firstPoint + 1);
 }
 
+void ChartModel::takeStateOf(ChartModel& other) {
+    for (const auto& view : other.viewsOf_) other.at(view.second)->setPointCount(0);
+    series_ = std::move(other.series_);
+    other.series_.clear();
+    viewsOf_.clear();
+    for (size_t i = 0; i < axes_.size(); ++i) axes_[i]->assignSettings(*other.axes_[i]);
+    labels_ = std::move(other.labels_);
+    legend_ = other.legend_;
+    header_ = other.header_;
+    footer_ = other.footer_;
+    colors_ = other.colors_;
+    chartAreaMargins_ = other.chartAreaMargins_;
+    chartType_ = other.chartType_;
+    dataChanged();
+}
+
 void ChartModel::setChartAreaMargins(const QMargins& margins) {
     chartAreaMargins_ = margins;
     touch();

@@ -91,6 +91,10 @@ public:
     // follows the range of Y.
     AxisScale::Scale automaticScale(Chart::Axis id) const;
 
+    // Takes over everything of another model (as a loaded chart file); series that showed
+    // ranges of other series come over empty.
+    void takeStateOf(ChartModel& other);
+
     // Marks a change: changed() now, or at the end of the batch.
     void touch();
     // A change of data: the automatic ranges are computed again.

@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -26,4 +27,18 @@ public:
 private:
     std::vector<quint16> raw_;
     std::array<double, 65536> table_;
+};
+
+// Values kept as doubles, for comparing against brute force.
+class VectorSource : public SeriesSource {
+public:
+    explicit VectorSource(std::vector<double> v) : v_(std::move(v)) {}
+    qsizetype count() const override { return qsizetype(v_.size()); }
+    void values(qsizetype first, qsizetype n, double* out) const override {
+        std::copy_n(v_.begin() + first, n, out);
+    }
+    const std::vector<double>& data() const { return v_; }
+
+private:
+    std::vector<double> v_;
 };

@@ -1,4 +1,5 @@
 #include "platform/MinMaxPyramid.h"
+#include "ChartTestSources.h"
 #include "platform/ChartTypes.h"
 
 #include <gtest/gtest.h>
@@ -10,19 +11,6 @@
 namespace {
 
 constexpr double H = Chart::kHoleValue;
-
-class VectorSource : public SeriesSource {
-public:
-    explicit VectorSource(std::vector<double> v) : v_(std::move(v)) {}
-    qsizetype count() const override { return qsizetype(v_.size()); }
-    void values(qsizetype first, qsizetype n, double* out) const override {
-        std::copy_n(v_.begin() + first, n, out);
-    }
-    const std::vector<double>& data() const { return v_; }
-
-private:
-    std::vector<double> v_;
-};
 
 MinMaxPyramid::Range bruteForce(const std::vector<double>& v, qsizetype first, qsizetype n) {
     MinMaxPyramid::Range r;

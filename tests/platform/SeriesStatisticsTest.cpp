@@ -1,4 +1,5 @@
 #include "platform/SeriesStatistics.h"
+#include "ChartTestSources.h"
 #include "platform/ChartTypes.h"
 
 #include <gtest/gtest.h>
@@ -64,18 +65,6 @@ TEST(SeriesStatistics, StandardDeviationIsStableForLargeOffsets) {
     EXPECT_NEAR(s.StdDev, 0.5, 1e-6);
     EXPECT_DOUBLE_EQ(s.Mean, 1e9);
 }
-
-class VectorSource : public SeriesSource {
-public:
-    explicit VectorSource(std::vector<double> v) : v_(std::move(v)) {}
-    qsizetype count() const override { return qsizetype(v_.size()); }
-    void values(qsizetype first, qsizetype n, double* out) const override {
-        std::copy_n(v_.begin() + first, n, out);
-    }
-
-private:
-    std::vector<double> v_;
-};
 
 TEST(SeriesStatistics, RangeOfASourceCountsOnlyThatRange) {
     std::vector<double> v(200000);
