@@ -107,6 +107,14 @@ void repaint(benchmark::State& state, qsizetype first, qsizetype span) {
 void BM_RepaintFullRange(benchmark::State& state) {
     repaint(state, 0, kPoints);
 }
+
+// The plan alone, without painting: what the pyramid walk costs.
+void BM_PrepareFullRange(benchmark::State& state) {
+    ChartModel& model = fullModel();
+    model.axisY().min();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ChartRenderer::prepare(model, QSizeF(kImageSize)).series.size());
+}
 void BM_RepaintZoom100k(benchmark::State& state) {
     repaint(state, 400000, 100000);
 }
@@ -121,6 +129,7 @@ void BM_RepaintZoom2k(benchmark::State& state) {
 
 BENCHMARK(BM_PyramidBuild64x1M)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_RepaintFullRange)->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(BM_PrepareFullRange)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_RepaintZoom100k)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_RepaintZoom10k)->Unit(benchmark::kMillisecond)->Repetitions(5);
 BENCHMARK(BM_RepaintZoom2k)->Unit(benchmark::kMillisecond)->Repetitions(5);
