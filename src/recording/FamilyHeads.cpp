@@ -83,8 +83,10 @@ TmHead TmHead::read(const FileBytes& b, int format) {
     b.require(58, 60);
     for (int i = 0; i < 30; ++i) {
         bool ok = false;
+        // A pair of digits, blanks around them allowed; "  " or any other text ends the list.
         const int n = digitsValue(
-            QString::fromLatin1(reinterpret_cast<const char*>(b.data()) + 58 + 2 * i, 2), ok);
+            QString::fromLatin1(reinterpret_cast<const char*>(b.data()) + 58 + 2 * i, 2).trimmed(),
+            ok);
         if (!ok) break;
         h.ChannelList.append(n);
     }

@@ -1,0 +1,32 @@
+#include "recording/FamilyCodes.h"
+#include "recording/RecordingLoader.h"
+#include "recording/SelectionLists.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdlib>
+#include <unistd.h>
+
+// A single CSV file is opened as a drop opens it: the command line refuses it, so the selection
+// is set directly. The reader must either load the file or fail cleanly with an empty view.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static const QString dir = QStringLiteral("/dev/shm/recview-fuzz-%1").arg(getpid());
+    static const bool made = QDir().mkpath(dir);
+    (void)made;
+    const QString path = dir + QStringLiteral("/input.csv");
+    {
+        QFile f(path);
+        if (!f.open(QIODevice::WriteOnly)) return 0;
+        f.write(reinterpret_cast<const char*>(data), qint64(size));
+    }
+    SelectionLists& sel = selection();
+    sel.clear();
+    sel.append(path, 0, 0);
+    sel.SelFileType = Family::CSV;
+    ViewTables& view = views(1);
+    copySelectionToView(view);
+    const LoadOutcome outcome = LoadRecording(view, LoadOptions());
+    if (!outcome.ok() && (view.PointCount != 0 || view.Storage.MaxCols() != 0)) std::abort();
+    return 0;
+}

@@ -1,0 +1,186 @@
+#include "LoadHelpers.h"
+
+#include "app/TimeBase.h"
+#include "recording/ColorMaps.h"
+#include "support/RecordingFixture.h"
+#include "support/TmWriter.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace fixtures;
+
+const qint64 kStart = TimeBase::toSeconds({2024, 5, 6, 10, 0, 0});
+
+TmDescription twoChannels(QVector<QVector<qint16>> rows) {
+    TmDescription d;
+    d.channels = {{1, '0', "0", "100.0", "degC", "Temp", '2', {}, {}},
+                  {2, '6', "", "", "Pa", "", '3', {}, {}}};
+    d.rows = std::move(rows);
+    return d;
+}
+
+// A file of one analogue channel (scale 0..100) with `rows` rows of count 0.
+QByteArray oneChannel(const QByteArray& startText, int rows, qint16 count = 0) {
+    TmDescription d;
+    d.startText = startText;
+    d.channels = {{1, '0', "0", "100", "", "A", '0', {}, {}}};
+    d.rows = QVector<QVector<qint16>>(rows, {count});
+    return buildTm(d);
+}
+
+class TmReader : public ::testing::Test {
+protected:
+    void SetUp() override { FileJoinByOrder = 0; }
+    FixtureDir dir;
+    const ViewTables& view = views(1);
+};
+
+TEST_F(TmReader, HeadAndChannelTablesFillTheView) {
+    ASSERT_TRUE(loadFiles({dir.write("run.dat", buildTm(twoChannels({{0, 0}, {1, 1}})))}).ok());
+    EXPECT_EQ(view.ViewStart, kStart);
+    EXPECT_EQ(view.ViewStartMsec, 0);
+    EXPECT_EQ(view.SampleInterval, 1000); // "00010" tenths
+    EXPECT_EQ(view.PointCount, 2);
+    EXPECT_EQ(view.ChannelCount, 2);
+    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Temp"));
+    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("CH2"));
+    EXPECT_EQ(view.Channels.ChUnit[1], QLatin1String("degC"));
+    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("Pa"));
+    EXPECT_EQ(view.Channels.ChScaleHigh[1], QLatin1String("100.0"));
+    EXPECT_FALSE(view.Channels.ChLogFlag[1]);
+    EXPECT_TRUE(view.Channels.ChLogFlag[2]);
+    EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfTMSeries().GetColor(2));
+    EXPECT_EQ(view.Channels.ChColor[2], ColorMapOfTMSeries().GetColor(3));
+    EXPECT_EQ(cellText(1, 1), QLatin1String("0000"));
+    EXPECT_EQ(cellText(3, 2), QLatin1String("0000"));
+}
+
+TEST_F(TmReader, CountsAreScaledOrShownAsStatus) {
+    const struct {
+        qint16 analogue, log;
+        const char *analogueText, *logText;
+    } cases[] = {
+        {25000, 32 * 123 + 3, "100.0", "1.23E+3"},
+        {-25000, 32 * 150 + 12, "0.0", "1.50E-20"},
+        {0, -163, "50.0", "-0.05E-3"},
+        {12345, 32 * 7, "74.7", "0.07E+0"},
+        {32700, 32700, "OVER", "OVER"},
+        {32767, 32767, "BURN", "BURN"},
+        {-32700, -32700, "UNDER", "UNDER"},
+        {-32768, -32768, "N.DATA", "N.DATA"},
+        {-32701, -32701, "FAIL", "FAIL"},
+    };
+    QVector<QVector<qint16>> rows;
+    for (const auto& c : cases) rows.append({c.analogue, c.log});
+    ASSERT_TRUE(loadFiles({dir.write("s.dat", buildTm(twoChannels(rows)))}).ok());
+    for (int r = 1; r <= int(std::size(cases)); ++r) {
+        EXPECT_EQ(cellText(2, r), QLatin1String(cases[r - 1].analogueText)) << r;
+        // The logarithmic channel has no scale texts, yet reads its counts.
+        EXPECT_EQ(cellText(4, r), QLatin1String("N.DATA")) << r;
+    }
+    TmDescription d = twoChannels(rows);
+    d.channels[1].low = "1";
+    d.channels[1].high = "1";
+    ASSERT_TRUE(loadFiles({dir.write("l.dat", buildTm(d))}).ok());
+    for (int r = 1; r <= int(std::size(cases)); ++r)
+        EXPECT_EQ(cellText(4, r), QLatin1String(cases[r - 1].logText)) << r;
+}
+
+TEST_F(TmReader, DecimalsFollowTheScaleHighText) {
+    const struct {
+        const char *low, *high, *text;
+    } cases[] = {{"0", "100", "100"},       {"0", "100.00", "100.00"}, {"-1.5", "1.50", "1.50"},
+                 {"0", "1.0000", "1.0000"}, {"", "100", "N.DATA"},     {"0", "x", "N.DATA"}};
+    for (const auto& c : cases) {
+        TmDescription d;
+        d.channels = {{1, '0', c.low, c.high, "", "A", '0', {}, {}}};
+        d.rows = {{25000}};
+        ASSERT_TRUE(loadFiles({dir.write("d.dat", buildTm(d))}).ok()) << c.high;
+        EXPECT_EQ(cellText(2, 1), QLatin1String(c.text)) << c.low << " " << c.high;
+    }
+}
+
+TEST_F(TmReader, TheChannelListEndsAtTheFirstPairThatIsNoNumber) {
+    const struct {
+        const char* list;
+        int channels;
+    } cases[] = {{"0102  03", 2}, {"01 2", 2}, {"  01", 0}, {"01xx02", 1}, {"010203", 3}};
+    for (const auto& c : cases) {
+        TmDescription d;
+        d.channels = {{1, '0', "0", "10", "", "A", '0', {}, {}},
+                      {2, '0', "0", "10", "", "B", '0', {}, {}},
+                      {3, '0', "0", "10", "", "C", '0', {}, {}}};
+        d.channelList = QByteArray(c.list);
+        d.rows = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
+        const LoadOutcome out = loadFiles({dir.write("l.dat", buildTm(d))});
+        if (c.channels == 0) {
+            EXPECT_EQ(out.message, 578) << c.list; // no columns, no rows
+            continue;
+        }
+        ASSERT_TRUE(out.ok()) << c.list;
+        EXPECT_EQ(view.ChannelCount, c.channels) << c.list;
+        EXPECT_EQ(view.PointCount, 18 / (2 * c.channels)) << c.list;
+    }
+}
+
+TEST_F(TmReader, LaterAnalogueChannelsTakeTheirScaleFromTheBlock) {
+    for (const char* magic : {"TM01", "TM11"}) {
+        TmDescription d;
+        d.magic = magic;
+        for (int m = 1; m <= 7; ++m)
+            d.channels.append(
+                {m, '0', "0", "100", "", "T" + QByteArray::number(m), '0', "0", "10.0"});
+        d.rows = {QVector<qint16>(7, 25000)};
+        ASSERT_TRUE(loadFiles({dir.write("p.dat", buildTm(d))}).ok());
+        EXPECT_EQ(cellText(12, 1), QLatin1String("100")) << magic;
+        // Position 7 is above 6 in format 6 only.
+        EXPECT_EQ(cellText(14, 1), QLatin1String(magic[2] == '0' ? "10.0" : "100")) << magic;
+        EXPECT_EQ(view.Channels.ChTag[7], QLatin1String("T7"));
+    }
+}
+
+TEST_F(TmReader, PairFlagGivesMinimumAndMaximumChannels) {
+    TmDescription d = twoChannels({{-25000, 25000, 0, 0}});
+    d.pairFlag = '1';
+    ASSERT_TRUE(loadFiles({dir.write("m.dat", buildTm(d))}).ok());
+    EXPECT_EQ(view.ChannelCount, 4);
+    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Temp -min"));
+    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("Temp -max"));
+    EXPECT_EQ(view.Channels.ChTag[4], QLatin1String("CH2 -max"));
+    EXPECT_EQ(view.Channels.ChScaleHigh[2], QLatin1String("100.0"));
+    EXPECT_EQ(cellText(2, 1), QLatin1String("0.0"));
+    EXPECT_EQ(cellText(4, 1), QLatin1String("100.0"));
+
+    d.pairFlag = '2'; // the row size is undetermined
+    const LoadOutcome out = loadFiles({dir.write("x.dat", buildTm(d))});
+    EXPECT_EQ(out.message, 560);
+    EXPECT_EQ(view.PointCount, 0);
+}
+
+TEST_F(TmReader, LaterFilesCloseSmallGapsAndOverlaps) {
+    const struct {
+        const char* secondStart;
+        int firstRowOfSecond, points;
+    } cases[] = {
+        {"20240506100008", 9, 11},  // seamless
+        {"20240506100010", 9, 11},  // a gap of 2 s is closed
+        {"20240506100011", 12, 14}, // a gap of 3 s stays
+        {"20240506100005", 9, 11},  // an overlap of 3 rows is laid behind
+        {"20240506100003", 9, 11},  // and one of 5 rows
+        {"20240506100002", 3, 8},   // one of 6 rows overwrites by time
+    };
+    for (const auto& c : cases) {
+        const QString a = dir.write("a.dat", oneChannel("20240506100000", 8));
+        const QString b = dir.write("b.dat", oneChannel(c.secondStart, 3, 25000));
+        ASSERT_TRUE(loadFiles({a, b}).ok()) << c.secondStart;
+        EXPECT_EQ(view.PointCount, c.points) << c.secondStart;
+        EXPECT_EQ(cellText(2, c.firstRowOfSecond), QLatin1String("100")) << c.secondStart;
+        EXPECT_EQ(cellText(2, c.firstRowOfSecond - 1),
+                  QLatin1String(c.firstRowOfSecond > 9 ? "" : "50"))
+            << c.secondStart;
+    }
+}
+
+} // namespace
