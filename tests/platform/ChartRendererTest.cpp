@@ -7,6 +7,8 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
+#include <map>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -114,6 +116,39 @@ TEST(ChartGeometry, RegionsAndNearestPoint) {
     const QPointF back = geometry.pixelToData(geometry.dataToPixel(3, 7));
     EXPECT_NEAR(back.x(), 3, 1e-9);
     EXPECT_NEAR(back.y(), 7, 1e-9);
+}
+
+// Labels attached to data follow it and are left out where the point is a hole or off the plot.
+TEST(ChartRenderer, ChartLabelsFollowTheirAttachment) {
+    ChartModel model;
+    flatLineWithGap(model);
+    auto addLabel = [&](const QString& text, int point) {
+        ChartLabel& label = model.labels().add(text);
+        label.Text = text;
+        label.AttachMethod = Chart::AttachMethod::DataIndex;
+        label.AttachDataIndex = {1, point};
+    };
+    addLabel("on point 3", 3);
+    addLabel("on a hole", 5);
+    ChartLabel& fixed = model.labels().add("fixed");
+    fixed.Text = "fixed";
+    fixed.AttachCoord = QPointF(20, 20);
+    auto origins = [&] {
+        std::map<QString, QPointF> found;
+        for (const auto& text : ChartRenderer::prepare(model, QSizeF(kSize)).texts)
+            found[text.text] = text.origin;
+        return found;
+    };
+    auto found = origins();
+    const ChartGeometry geometry(model, QSizeF(kSize));
+    ASSERT_TRUE(found.count("on point 3"));
+    EXPECT_EQ(found["on point 3"], geometry.dataToPixel(2, 5));
+    EXPECT_FALSE(found.count("on a hole"));
+    EXPECT_EQ(found["fixed"], QPointF(20, 20));
+    model.axisX().setMin(5); // scrolled past point 3
+    found = origins();
+    EXPECT_FALSE(found.count("on point 3"));
+    EXPECT_TRUE(found.count("fixed"));
 }
 
 TEST(ChartRenderer, DrawsOnAPdfPage) {
