@@ -58,11 +58,10 @@ QString CellFormat::text(quint32 raw) const {
 
 namespace AlarmCell {
 
-quint16 fromBytes(quint8 first, quint8 second) {
-    return quint16(SampleRules::alarmByteDigits(first) | (SampleRules::alarmByteDigits(second) << 8));
+ByteDigits::ByteDigits() {
+    for (int b = 0; b < 256; ++b) digits[b] = SampleRules::alarmByteDigits(quint8(b));
 }
-
-quint16 fromByte(quint8 first) { return quint16(SampleRules::alarmByteDigits(first) | 0xFF00); }
+const ByteDigits kByteDigits;
 
 QString text(quint16 cell) {
     QString t;

@@ -140,34 +140,34 @@ void VxfFormat::readSamples(const FileLoad& load, int channelBase, qint64 rowOff
     const int stored = int(std::clamp<qint64>(MaxChannels - channelBase, 0, columns));
 
     clsStorage& store = load.view.Storage;
-    QVector<quint16*> values(stored), alarms(stored);
+    std::vector<quint16*> values(static_cast<size_t>(stored)), alarms(static_cast<size_t>(stored));
     for (int p = 0; p < stored; ++p) {
         const int ch = channelBase + p + 1;
         const int exp = load.view.Channels.ChExpDigits[size_t(ch)];
         const CellFormat format = exp ? CellFormat::float2(exp - 1)
                                       : CellFormat::plain(b.ReadByte(head_.layout->decimals +
                                                                      2 * (pair ? p / 2 : p)));
-        values[p] = store.beginSegment(2 * ch, first, last, format);
-        alarms[p] = store.beginSegment(2 * ch - 1, first, last, CellFormat::alarm());
+        values[size_t(p)] = store.beginSegment(2 * ch, first, last, format);
+        alarms[size_t(p)] = store.beginSegment(2 * ch - 1, first, last, CellFormat::alarm());
     }
+    // Rows are transposed into columns in blocks, so that each column is written sequentially
+    // while the block of file rows stays in the cache.
     const uchar* data = b.data() + head_.DataOffset;
-    for (qint64 r = firstFileRow; r <= rows; ++r) {
-        if ((r & 1023) == 0) load.pollRows(r, rows);
-        const uchar* row = data + (r - 1) * rowBytes;
-        const qint64 storeRow = rowOffset + r;
+    constexpr qint64 kBlock = 512;
+    for (qint64 r0 = firstFileRow; r0 <= rows; r0 += kBlock) {
+        load.pollRows(r0, rows);
+        const qint64 r1 = std::min(rows, r0 + kBlock - 1);
         for (int p = 0; p < stored; ++p) {
-            if (!pair) {
-                const uchar* s = row + 4 * p;
-                values[p][storeRow] = quint16(s[0] | s[1] << 8);
-                alarms[p][storeRow] = AlarmCell::fromBytes(s[2], s[3]);
-            } else if (p % 2 == 0) { // minimum: the pair's start, four alarm characters
-                const uchar* s = row + 3 * p;
-                values[p][storeRow] = quint16(s[0] | s[1] << 8);
-                alarms[p][storeRow] = AlarmCell::fromBytes(s[4], s[5]);
-            } else { // maximum: two bytes later, two alarm characters from the pair's first byte
-                const uchar* s = row + 3 * p - 1;
-                values[p][storeRow] = quint16(s[0] | s[1] << 8);
-                alarms[p][storeRow] = AlarmCell::fromByte(s[2]);
+            quint16* const value = values[size_t(p)] + rowOffset;
+            quint16* const alarm = alarms[size_t(p)] + rowOffset;
+            const bool maximum = pair && p % 2 == 1;
+            const uchar* s = data + (r0 - 1) * rowBytes + (pair ? 3 * p - (maximum ? 1 : 0) : 4 * p);
+            for (qint64 r = r0; r <= r1; ++r, s += rowBytes) {
+                value[r] = quint16(s[0] | s[1] << 8);
+                // A pair's maximum column takes two characters from the pair's first alarm byte.
+                alarm[r] = !pair ? AlarmCell::fromBytes(s[2], s[3])
+                           : maximum ? AlarmCell::fromByte(s[2])
+                                     : AlarmCell::fromBytes(s[4], s[5]);
             }
         }
     }
