@@ -50,13 +50,11 @@ void ChartAxis::setMax(double value) {
 }
 
 void ChartAxis::setMinAuto(bool on) {
-    minAuto_ = on;
-    changed();
+    set(minAuto_, on);
 }
 
 void ChartAxis::setMaxAuto(bool on) {
-    maxAuto_ = on;
-    changed();
+    set(maxAuto_, on);
 }
 
 double ChartAxis::labelInterval() const {
@@ -72,18 +70,15 @@ void ChartAxis::setLabelInterval(double value) {
 }
 
 void ChartAxis::setLabelIntervalAuto(bool on) {
-    labelIntervalAuto_ = on;
-    changed();
+    set(labelIntervalAuto_, on);
 }
 
 void ChartAxis::setSubGridInterval(double value) {
-    subGridInterval_ = value;
-    changed();
+    set(subGridInterval_, value);
 }
 
 void ChartAxis::setReversed(bool on) {
-    reversed_ = on;
-    changed();
+    set(reversed_, on);
 }
 
 void ChartAxis::setLogarithmic(bool on) {
@@ -92,28 +87,23 @@ void ChartAxis::setLogarithmic(bool on) {
 }
 
 void ChartAxis::setShown(bool on) {
-    shown_ = on;
-    changed();
+    set(shown_, on);
 }
 
 void ChartAxis::setLabelsShown(bool on) {
-    labelsShown_ = on;
-    changed();
+    set(labelsShown_, on);
 }
 
 void ChartAxis::setGridShown(bool on) {
-    gridShown_ = on;
-    changed();
+    set(gridShown_, on);
 }
 
 void ChartAxis::setLabelMethod(Chart::LabelMethod method) {
-    labelMethod_ = method;
-    changed();
+    set(labelMethod_, method);
 }
 
 void ChartAxis::setPrecision(int decimals) {
-    precision_ = decimals;
-    changed();
+    set(precision_, decimals);
 }
 
 ValueLabels& ChartAxis::valueLabels() {
@@ -122,26 +112,21 @@ ValueLabels& ChartAxis::valueLabels() {
 }
 
 void ChartAxis::setTitle(const QString& text) {
-    title_ = text;
-    changed();
+    set(title_, text);
 }
 
 void ChartAxis::setTitleFont(const QFont& font) {
-    titleFont_ = font;
-    changed();
+    set(titleFont_, font);
 }
 
 void ChartAxis::setTitleRotation(int degrees) {
-    titleRotation_ = degrees;
-    changed();
+    set(titleRotation_, degrees);
 }
 
 void ChartAxis::setFont(const QFont& font) {
-    font_ = font;
-    changed();
+    set(font_, font);
 }
 
 void ChartAxis::setLabelColor(const QColor& color) {
-    labelColor_ = color;
-    changed();
+    set(labelColor_, color);
 }

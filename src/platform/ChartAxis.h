@@ -93,6 +93,10 @@ public:
 
 private:
     void changed();
+    template <typename T> void set(T& field, const T& value) {
+        field = value;
+        changed();
+    }
 
     ChartModel* model_;
     Chart::Axis id_;

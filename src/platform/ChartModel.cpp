@@ -215,33 +215,24 @@ void ChartModel::setSeriesInAutoRange(int s, bool on) {
     }
 }
 
-const SeriesStatistics* ChartModel::wholeStatistics(int s) const {
-    return validSeries(s) ? &series(s).statistics() : nullptr;
+double ChartModel::wholeStatistic(int s, double SeriesStatistics::*field) const {
+    return validSeries(s) ? series(s).statistics().*field : Chart::kHoleValue;
 }
 
 double ChartModel::Maximum(int s) const {
-    const SeriesStatistics* st = wholeStatistics(s);
-    return st ? st->Maximum : Chart::kHoleValue;
+    return wholeStatistic(s, &SeriesStatistics::Maximum);
 }
-
 double ChartModel::Minimum(int s) const {
-    const SeriesStatistics* st = wholeStatistics(s);
-    return st ? st->Minimum : Chart::kHoleValue;
+    return wholeStatistic(s, &SeriesStatistics::Minimum);
 }
-
 double ChartModel::Mean(int s) const {
-    const SeriesStatistics* st = wholeStatistics(s);
-    return st ? st->Mean : Chart::kHoleValue;
+    return wholeStatistic(s, &SeriesStatistics::Mean);
 }
-
 double ChartModel::StdDev(int s) const {
-    const SeriesStatistics* st = wholeStatistics(s);
-    return st ? st->StdDev : Chart::kHoleValue;
+    return wholeStatistic(s, &SeriesStatistics::StdDev);
 }
-
 double ChartModel::Stat5(int s) const {
-    const SeriesStatistics* st = wholeStatistics(s);
-    return st ? st->Stat5 : Chart::kHoleValue;
+    return wholeStatistic(s, &SeriesStatistics::Stat5);
 }
 
 SeriesStatistics ChartModel::statistics(int s, qsizetype firstPoint, qsizetype lastPoint) const {

@@ -106,7 +106,7 @@ Q_SIGNALS:
 private:
     bool validSeries(int s) const { return s >= 1 && s <= seriesCount(); }
     ChartSeries* at(int s) { return validSeries(s) ? series_[size_t(s - 1)].get() : nullptr; }
-    const SeriesStatistics* wholeStatistics(int s) const;
+    double wholeStatistic(int s, double SeriesStatistics::*field) const;
     void forgetView(int s);
     void seriesDataChanged(int s);
 

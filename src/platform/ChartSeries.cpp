@@ -35,22 +35,23 @@ void ChartSeries::setPointCount(qsizetype count) {
     invalidate();
 }
 
-void ChartSeries::setStoredValues(std::vector<double> y) {
+void ChartSeries::dropData() {
     source_.reset();
     yOverrides_.clear();
     xOverrides_.clear();
     x_.clear();
-    y_ = std::move(y);
+    y_.clear();
     invalidate();
 }
 
+void ChartSeries::setStoredValues(std::vector<double> y) {
+    dropData();
+    y_ = std::move(y);
+}
+
 void ChartSeries::setSource(std::unique_ptr<SeriesSource> source) {
-    y_.clear();
-    x_.clear();
-    yOverrides_.clear();
-    xOverrides_.clear();
+    dropData();
     source_ = std::move(source);
-    invalidate();
 }
 
 double ChartSeries::y(qsizetype i) const {

@@ -73,6 +73,8 @@ public:
     SeriesStatistics statistics(qsizetype first, qsizetype n) const;
 
 private:
+    void dropData();
+
     std::vector<double> y_;
     std::vector<double> x_; // empty while every X is its default
     std::unique_ptr<SeriesSource> source_;

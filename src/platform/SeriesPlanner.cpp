@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace SeriesPlanner {
 
@@ -164,28 +165,16 @@ QPen linePen(const SeriesStyle& style) {
     QPen pen(style.color, std::max(style.width, 1));
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::RoundJoin);
-    switch (style.pattern) {
-    case Chart::LinePattern::None:
-        pen.setStyle(Qt::NoPen);
-        break;
-    case Chart::LinePattern::LongDash:
-        pen.setStyle(Qt::DashLine);
-        break;
-    case Chart::LinePattern::Dotted:
-        pen.setStyle(Qt::DotLine);
-        break;
-    case Chart::LinePattern::ShortDash:
+    using P = Chart::LinePattern;
+    static const std::map<P, Qt::PenStyle> styles = {{P::None, Qt::NoPen},
+                                                     {P::LongDash, Qt::DashLine},
+                                                     {P::Dotted, Qt::DotLine},
+                                                     {P::DashDot, Qt::DashDotLine},
+                                                     {P::DashDotDot, Qt::DashDotDotLine}};
+    if (style.pattern == P::ShortDash)
         pen.setDashPattern({2, 2});
-        break;
-    case Chart::LinePattern::DashDot:
-        pen.setStyle(Qt::DashDotLine);
-        break;
-    case Chart::LinePattern::DashDotDot:
-        pen.setStyle(Qt::DashDotDotLine);
-        break;
-    default:
-        break;
-    }
+    else if (const auto it = styles.find(style.pattern); it != styles.end())
+        pen.setStyle(it->second);
     return pen;
 }
 

@@ -40,13 +40,20 @@ void fill(ChartModel& model) {
     model.setChartType(Chart::kTypePolar);
 }
 
-TEST(ChartFile, SavesAndLoadsTheWholeChartButSourcedPoints) {
+// The chart file of a filled model.
+QByteArray savedChart() {
     ChartModel model;
     fill(model);
     QBuffer buffer;
-    buffer.open(QIODevice::ReadWrite);
-    ASSERT_TRUE(ChartFile::save(model, buffer));
-    buffer.seek(0);
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(ChartFile::save(model, buffer));
+    return buffer.data();
+}
+
+TEST(ChartFile, SavesAndLoadsTheWholeChartButSourcedPoints) {
+    QByteArray file = savedChart();
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::ReadOnly);
     ChartModel loaded;
     ASSERT_TRUE(ChartFile::load(loaded, buffer));
 
@@ -76,12 +83,7 @@ TEST(ChartFile, SavesAndLoadsTheWholeChartButSourcedPoints) {
 }
 
 TEST(ChartFile, DamagedFileLeavesTheModelAsItWas) {
-    ChartModel model;
-    fill(model);
-    QBuffer buffer;
-    buffer.open(QIODevice::ReadWrite);
-    ASSERT_TRUE(ChartFile::save(model, buffer));
-    const QByteArray whole = buffer.data();
+    const QByteArray whole = savedChart();
     for (const QByteArray& damaged : {whole.left(whole.size() / 2), QByteArray("not a chart")}) {
         QBuffer in;
         in.setData(damaged);
