@@ -1,0 +1,63 @@
+#pragma once
+
+#include "recording/RecordingLimits.h"
+
+#include <QString>
+
+#include <array>
+
+// One line of a view: what feeds the plotted series of a channel (0..372, lines 1..372 in use).
+struct TrendLine {
+    qint16 sourceColumn = 0; // store channel feeding the line; 0 = no data
+    qint32 enabled = 0;      // 0 = not plotted
+    bool addFlag = true;     // second operand added (true) or subtracted
+    qint16 secondColumn = 0; // store channel of the second operand; 0 = none
+    QString constant;        // second operand when there is no second column
+    QString scaleLow;        // the line's scale in engineering units
+    QString scaleHigh;
+    qint16 decimals = 0;     // 0..4
+    qint32 scaleKind = 1;    // 1 = linear
+};
+
+constexpr int kLineCount = MaxChannels + 1; // entries 0..372
+constexpr int kZoomLevels = 101;            // levels 0..100
+
+// The state of one trend view that the windows, the lists and the saved records share.
+// One instance per view, reached through trendState(viewNumber).
+struct TrendViewState {
+    // Form state
+    qint16 PointScale = 1;
+    qint16 ZoomLevel = 0;
+    std::array<std::array<qint32, 3>, kZoomLevels> ZoomX{};  // [level][1..2]: start, end point
+    std::array<std::array<double, 3>, kZoomLevels> ZoomY{};  // [level][1..2]: Y minimum, maximum
+    bool BusyDrawing = false;
+    bool MouseArmed = false;
+    bool ViewRestoring = false;
+    bool CursorAOn = false;
+    bool CursorBOn = false;
+    qint32 BarPosition = 1;
+
+    // Module arrays of the view
+    qint16 ScrollScale = 0;
+    bool ScalePercentMode = false;
+    qint16 ScaleType = 0;                   // 0 plain, 1 Y/Y2 bound to channels, 2 multi-scale
+    std::array<qint16, 2> AxisChannel{};    // channel on Y and on Y2
+    std::array<qint32, 2> CursorPoint{};    // point under cursor A and B, 1-based, 0 = none
+    qint16 BarPlacement = 0;
+    std::array<qint32, 2> MarkerCalcValue{}; // two-slot value of marker statistics and calc lines
+    qint16 MarkerAutoCalc = 0;
+    std::array<qint16, 2> CalcLineChannel{};
+    std::array<qint32, 2> TimeLabelInterval{}; // label interval and sub-grid interval (time axis)
+    qint16 ChartMouseFlag = 0;
+    qint16 AxisLabelsOn = 0;
+    qint16 MarkerViewFlag = 0;
+    std::array<qint32, 2> TimeAxisChoice{};    // chosen start and end of the time axis dialog
+    std::array<qint16, 4> ViewTail{};
+
+    std::array<TrendLine, kLineCount> Lines;
+
+    void reset() { *this = TrendViewState(); }
+};
+
+// The trend state of views 1..MaxViews.
+TrendViewState& trendState(int viewNumber);
