@@ -1,0 +1,159 @@
+#include "LoadHelpers.h"
+
+#include "app/LanguageTable.h"
+#include "app/TimeBase.h"
+#include "recording/clsCSV.h"
+#include "support/CsvWriter.h"
+#include "support/RecordingFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace fixtures;
+
+const qint64 kStart = TimeBase::toSeconds({2024, 5, 6, 10, 0, 0});
+
+QString rowDotChannel(int r, int c) {
+    return QStringLiteral("%1.%2").arg(r).arg(c);
+}
+
+class CsvReader : public ::testing::Test {
+protected:
+    LoadOutcome load(const QStringList& lines, bool cp932 = false) {
+        return loadCsv(dir.write("data.csv", buildCsv(lines, cp932)));
+    }
+    void expectFailedAndEmpty(const LoadOutcome& out) {
+        EXPECT_EQ(out.status, LoadOutcome::Status::Failed);
+        EXPECT_EQ(out.message, 560);
+        EXPECT_EQ(view.PointCount, 0);
+        EXPECT_EQ(view.Storage.MaxCols(), 0);
+        EXPECT_FALSE(view.Loaded);
+    }
+    FixtureDir dir;
+    const ViewTables& view = views(1);
+};
+
+TEST_F(CsvReader, TitlesTimesAndValuesFillTheView) {
+    ASSERT_TRUE(load(simpleCsv(3, 4, rowDotChannel)).ok());
+    EXPECT_EQ(view.ViewStart, kStart);
+    EXPECT_EQ(view.SampleInterval, 1000);
+    EXPECT_EQ(view.PointCount, 4);
+    EXPECT_EQ(view.ChannelCount, 3);
+    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("T2"));
+    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("V"));
+    EXPECT_EQ(view.ViewTitle, QLatin1String("data.csv"));
+    EXPECT_EQ(cellText(6, 4), QLatin1String("4.3"));
+    EXPECT_EQ(cellText(1, 1), QLatin1String("0000"));
+}
+
+TEST_F(CsvReader, DateAndTimeInOneOrTwoFieldsWithMilliseconds) {
+    const struct {
+        QStringList lines;
+        qint64 start;
+        int msec, interval;
+    } cases[] = {
+        {{"Date,A [V]", "2024/05/06 10:00:00.500,1", "2024/05/06 10:00:00.750,2"},
+         kStart,
+         500,
+         250},
+        {{",Time,A [V]", "2024/05/06,10:00:00,1", "2024/05/06,10:01:00,2"}, kStart, 0, 60000},
+        {{",Time,A [V]", "2024-05-06,10:00,1", "2024-05-06,11:00,2"}, kStart, 0, 3600000},
+        {{"Date,A [V]", "24/05/06 10:00:00,1"}, kStart, 0, 0},
+    };
+    for (const auto& c : cases) {
+        ASSERT_TRUE(load(c.lines).ok()) << c.lines[1].toStdString();
+        EXPECT_EQ(view.ChannelCount, 1);
+        EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("A"));
+        EXPECT_EQ(view.ViewStart, c.start);
+        EXPECT_EQ(view.ViewStartMsec, c.msec);
+        EXPECT_EQ(view.SampleInterval, c.interval);
+        EXPECT_EQ(cellText(2, 1), QLatin1String("1"));
+    }
+}
+
+TEST_F(CsvReader, AFileEndingAfterLineTwoHasOneRowAndIntervalZero) {
+    ASSERT_TRUE(load(simpleCsv(2, 1, rowDotChannel) << QString() << QString()).ok());
+    EXPECT_EQ(view.PointCount, 1);
+    EXPECT_EQ(view.SampleInterval, 0);
+}
+
+TEST_F(CsvReader, ValueTextsPassAsTheyStandCutToEightCharacters) {
+    const QStringList lines{"Date,A [V],B [V],C [V]", "2024/05/06 10:00:00,123456789.5,OVER,abc",
+                            "2024/05/06 10:00:01,-0.25,,N.DATA"};
+    ASSERT_TRUE(load(lines).ok());
+    EXPECT_EQ(cellText(2, 1), QLatin1String("12345678"));
+    EXPECT_EQ(cellText(4, 1), QLatin1String("OVER"));
+    EXPECT_EQ(cellText(6, 1), QLatin1String("abc"));
+    EXPECT_EQ(cellText(2, 2), QLatin1String("-0.25"));
+    EXPECT_EQ(cellText(4, 2), QString());
+    EXPECT_EQ(cellText(6, 2), QLatin1String("N.DATA"));
+}
+
+TEST_F(CsvReader, AlarmColumnsEndTheChannelsAndGiveAlarmDigits) {
+    const QStringList lines{"Date,A [V],B [mA],A AL,B AL", "2024/05/06 10:00:00,1,2,H/L,",
+                            "2024/05/06 10:00:01,3,4,//r,R x H"};
+    ASSERT_TRUE(load(lines).ok());
+    EXPECT_EQ(view.ChannelCount, 2);
+    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("mA"));
+    EXPECT_EQ(cellText(1, 1), QLatin1String("1200"));
+    EXPECT_EQ(cellText(3, 1), QLatin1String("0000"));
+    EXPECT_EQ(cellText(1, 2), QLatin1String("0040"));
+    EXPECT_EQ(cellText(3, 2), QLatin1String("3010"));
+    EXPECT_EQ(cellText(4, 2), QLatin1String("4"));
+}
+
+TEST_F(CsvReader, AlmDataCnvMatchesTheLevelWords) {
+    const QString h = MsgText(486), l = MsgText(487), R = MsgText(488), r = MsgText(489);
+    EXPECT_EQ(clsCSV::AlmDataCnv(QString()), QLatin1String("0000"));
+    EXPECT_EQ(clsCSV::AlmDataCnv(h), QLatin1String("1000"));
+    EXPECT_EQ(clsCSV::AlmDataCnv(h + "/" + l + "/" + R + "/" + r), QLatin1String("1234"));
+    EXPECT_EQ(clsCSV::AlmDataCnv(r + " " + h), QLatin1String("4100"));
+    EXPECT_EQ(clsCSV::AlmDataCnv(QStringLiteral("?/") + l), QLatin1String("0200"));
+    EXPECT_EQ(clsCSV::AlmDataCnv(h + "/" + h + "/" + h + "/" + h + "/" + h), QLatin1String("1111"));
+}
+
+TEST_F(CsvReader, TextIsUtf8WhenValidOtherwiseCp932) {
+    const QString tag = QString::fromUtf8("温度");
+    for (bool cp932 : {false, true}) {
+        ASSERT_TRUE(load({"Date," + tag + " [℃]", "2024/05/06 10:00:00,1"}, cp932).ok());
+        EXPECT_EQ(view.Channels.ChTag[1], tag) << cp932;
+        EXPECT_EQ(view.Channels.ChUnit[1], QString::fromUtf8("℃")) << cp932;
+    }
+}
+
+TEST_F(CsvReader, UnreadableDatesAndShortLinesFailWithNothingShown) {
+    const QStringList cases[] = {
+        {"Date,A [V]", "yesterday,1"},
+        {"Date,A [V]", "2024/13/06 10:00:00,1"},
+        {"Date,A [V]", "2024/05/06 10:00:00,1", "garbage,2"},
+        {"Date,A [V],B [V]", "2024/05/06 10:00:00,1,2", "2024/05/06 10:00:01,1"},
+        {"Date,A [V],A AL", "2024/05/06 10:00:00,1"},
+        {"Date,A [V]", "2024/05/06 10:00:00,1", "", "2024/05/06 10:00:02,1", "oops"},
+        {"Date,A [V]"},
+        {},
+    };
+    for (const QStringList& lines : cases) {
+        ASSERT_TRUE(load(simpleCsv(1, 2, rowDotChannel)).ok()); // a view to be cleared
+        const LoadOutcome out = load(lines);
+        if (lines.size() > 4) {
+            // The rows end at the first empty line; what follows it is not read.
+            EXPECT_TRUE(out.ok());
+            EXPECT_EQ(view.PointCount, 1);
+            continue;
+        }
+        expectFailedAndEmpty(out);
+    }
+}
+
+TEST_F(CsvReader, ChannelsBeyond372AreDroppedWithAWarning) {
+    const LoadOutcome out = load(simpleCsv(373, 2, rowDotChannel));
+    ASSERT_TRUE(out.ok());
+    EXPECT_EQ(out.message, 492);
+    EXPECT_EQ(out.detail, MsgText(490));
+    EXPECT_EQ(view.ChannelCount, 372);
+    EXPECT_EQ(cellText(744, 2), QLatin1String("2.372"));
+    EXPECT_EQ(load(simpleCsv(372, 2, rowDotChannel)).message, 0);
+}
+
+} // namespace

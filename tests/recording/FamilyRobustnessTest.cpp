@@ -1,0 +1,179 @@
+#include "LoadHelpers.h"
+
+#include "recording/FamilyCodes.h"
+#include "support/CsvWriter.h"
+#include "support/JlmWriter.h"
+#include "support/NpWriter.h"
+#include "support/QdfWriter.h"
+#include "support/RecordingFixture.h"
+#include "support/TmWriter.h"
+
+#include <QRandomGenerator>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+using namespace fixtures;
+
+// One valid file of a family, and how the program opens it.
+struct FamilyCase {
+    const char* name;
+    const char* fileName;
+    int fileType;
+    bool gsMode;
+    std::function<QByteArray()> build;
+    qint64 headBytes; // where counts and offsets live; most flips go there
+};
+
+QByteArray qdfFile() {
+    QdfDescription d;
+    d.groupMask[0] = 0x3003;
+    d.groupMask[1] = 0x4000;
+    d.groupMask[2] = 0x8010;
+    d.decimals[0] = 2;
+    d.values = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
+    d.alarmWords = {{1, 2, 3, 4}, {0, 0, 0, 0}, {0xFFFF, 0, 0, 1}};
+    return buildQdf(d);
+}
+
+QByteArray tmFile() {
+    TmDescription d;
+    d.magic = "TM10";
+    d.pairFlag = '1';
+    d.channels = {{1, '0', "0", "100.0", "C", "A", '1', {}, {}},
+                  {40, '6', "1", "1", "", "", '2', {}, {}}};
+    d.rows = {{1, 2, 3, 4}, {-25000, 25000, 32700, 32767}, {5, 6, 7, 8}};
+    return buildTm(d);
+}
+
+QByteArray npFile(quint32 kind, quint16 version, bool gs) {
+    NpDescription d;
+    d.magic = gs ? QByteArray("PC4\0", 4) : QByteArray("NP5\0", 4);
+    d.gsStride = gs;
+    d.dataKind = kind;
+    d.version = version;
+    d.startUnix = 1714989600;
+    d.channels = {{"A", "V", 1, 1}, {"", "", 2, 3}};
+    const int columns = kind == 4 ? 4 : 2;
+    d.rows = QVector<QVector<NpSample>>(4, QVector<NpSample>(columns, {7, 1.5f, 3}));
+    return buildNp(d);
+}
+
+QByteArray jlmFile() {
+    JlmDescription d;
+    d.channels = {{"Tag1", "u1", 1}, {"Tag2", "u2", 0}};
+    d.keys = jlmKeys(2024, 5, 6, 10, 0, 0, 4, 60);
+    d.rows = {{1, 2}, {3, 4}, {5, 6}, {7, 8}};
+    return buildJlm(d);
+}
+
+QByteArray csvFile() {
+    return buildCsv({",Time,A [V],B [V],A AL,B AL", "2024/05/06,10:00:00.250,1,2,H,L",
+                     "2024/05/06,10:00:01.250,3,4,,r", "2024/05/06,10:00:02.250,5,OVER,H/L,"});
+}
+
+const FamilyCase kFamilies[] = {
+    {"QDF", "f.qdf", Family::QDF, false, qdfFile, 48},
+    {"TM", "f.dat", Family::TM, false, tmFile, 120},
+    {"N5F v3", "f.n5f", Family::N5F, false, [] { return npFile(0, 3, false); }, 44},
+    {"N5F v1", "f.n5f", Family::N5F, false, [] { return npFile(0, 1, false); }, 44},
+    {"N5F float", "f.n5f", Family::N5F, false, [] { return npFile(2, 3, false); }, 44},
+    {"N5F pairs v4", "f.n5f", Family::N5F, false, [] { return npFile(4, 4, false); }, 44},
+    {"P4F", "f.p4f", Family::N5F, true, [] { return npFile(0, 3, true); }, 44},
+    {"JLM", "f.jlm", Family::VXF, false, jlmFile, 16},
+    {"CSV", "f.csv", Family::CSV, false, csvFile, 40},
+};
+
+// Opens a file straight into view 1, past the header scan, so that every byte reaches the reader.
+LoadOutcome loadDirect(const QString& path, const FamilyCase& f) {
+    SelectionLists& sel = selection();
+    sel.clear();
+    sel.append(path, 0, 0);
+    sel.SelFileType = f.fileType;
+    ViewTables& view = views(1);
+    copySelectionToView(view);
+    LoadOptions options;
+    options.gsMode = f.gsMode;
+    return LoadRecording(view, options);
+}
+
+// Every load of a damaged file either succeeds or fails cleanly with an empty view.
+void expectCleanOutcome(const LoadOutcome& out, const FamilyCase& f, const char* what,
+                        qint64 where) {
+    ViewTables& v = views(1);
+    if (out.ok()) {
+        EXPECT_GT(v.PointCount, 0) << f.name << " " << what << " " << where;
+    } else {
+        EXPECT_TRUE(out.message == 560 || out.message == 587 || out.message == 578)
+            << f.name << " " << what << " " << where << " message " << out.message;
+        EXPECT_EQ(v.PointCount, 0) << f.name << " " << what << " " << where;
+        EXPECT_EQ(v.Storage.MaxCols(), 0) << f.name << " " << what << " " << where;
+    }
+    EXPECT_FALSE(v.Loading);
+    v.clearRecording();
+}
+
+TEST(FamilyRobustness, TheValidFilesLoad) {
+    FixtureDir dir;
+    for (const FamilyCase& f : kFamilies) {
+        const LoadOutcome out = loadDirect(dir.write(f.fileName, f.build()), f);
+        EXPECT_TRUE(out.ok()) << f.name << " message " << out.message;
+        EXPECT_GE(views(1).PointCount, 3) << f.name;
+        EXPECT_GE(views(1).ChannelCount, 2) << f.name;
+    }
+}
+
+TEST(FamilyRobustness, TruncationAtManyOffsetsFailsCleanly) {
+    FixtureDir dir;
+    for (const FamilyCase& f : kFamilies) {
+        const QByteArray whole = f.build();
+        for (qint64 len = 0; len < whole.size();
+             len += (len < 300 || len > whole.size() - 64 ? 1 : 29)) {
+            const QString path = dir.write(f.fileName, whole.left(len));
+            expectCleanOutcome(loadDirect(path, f), f, "truncated at", len);
+        }
+    }
+}
+
+TEST(FamilyRobustness, FlippedBytesNeverCrash) {
+    FixtureDir dir;
+    QRandomGenerator random(20240506);
+    for (const FamilyCase& f : kFamilies) {
+        const QByteArray whole = f.build();
+        for (int round = 0; round < 300; ++round) {
+            QByteArray damaged = whole;
+            const int flips = 1 + int(random.bounded(6));
+            for (int i = 0; i < flips; ++i) {
+                const qint64 at = random.bounded(10) < 6 ? random.bounded(f.headBytes)
+                                                         : random.bounded(qint64(whole.size()));
+                damaged[at] = char(damaged[at] ^ char(1 << random.bounded(8)));
+            }
+            expectCleanOutcome(loadDirect(dir.write(f.fileName, damaged), f), f, "round", round);
+        }
+    }
+}
+
+TEST(FamilyRobustness, HugeCountsAllocateNothing) {
+    FixtureDir dir;
+    JlmDescription jlm;
+    jlm.channelCount = 99999.0f;
+    jlm.channels = {{"A", "", 0}};
+    jlm.keys = jlmKeys(2024, 1, 1, 0, 0, 0, 2, 1);
+    jlm.rows = {{1}, {2}};
+    expectCleanOutcome(loadDirect(dir.write("h.jlm", buildJlm(jlm)), kFamilies[7]), kFamilies[7],
+                       "jlm", 0);
+
+    NpDescription np;
+    np.channels = {{"A", "", 1, 0}};
+    np.rows = {{{1, 0, 0}}};
+    np.version = 4;
+    np.rowCount = 0x7FFFFFFF;
+    expectCleanOutcome(loadDirect(dir.write("h.n5f", buildNp(np)), kFamilies[2]), kFamilies[2],
+                       "np", 0);
+    EXPECT_FALSE(views(1).Loaded);
+}
+
+} // namespace

@@ -1,0 +1,128 @@
+#include "LoadHelpers.h"
+
+#include "app/TimeBase.h"
+#include "recording/ColorMaps.h"
+#include "recording/FileRecognition.h"
+#include "support/JlmWriter.h"
+#include "support/RecordingFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace fixtures;
+
+JlmDescription threeRows() {
+    JlmDescription d;
+    d.channels = {{"Temperat", "degC", 1}, {"P", "kPa abs", 2}, {"Level", "", 0}};
+    d.keys = jlmKeys(2024, 5, 6, 10, 0, 0, 3, 10);
+    d.rows = {{12.34f, 1.005f, 7.5f}, {-0.05f, 327.6f, 32760.4f}, {1e9f, -2.0f, 6.5f}};
+    return d;
+}
+
+class JlmReader : public ::testing::Test {
+protected:
+    void SetUp() override { FileJoinByOrder = 0; }
+    FixtureDir dir;
+    const ViewTables& view = views(1);
+};
+
+TEST_F(JlmReader, HeaderRowsGiveTheChannelTable) {
+    ASSERT_TRUE(loadFiles({dir.write("a.jlm", buildJlm(threeRows()))}).ok());
+    EXPECT_EQ(view.ViewStart, TimeBase::toSeconds({2024, 5, 6, 10, 0, 0}));
+    EXPECT_EQ(view.ViewStartMsec, 0);
+    EXPECT_EQ(view.SampleInterval, 10000);
+    EXPECT_EQ(view.FileInterval, 6);
+    EXPECT_EQ(view.PointCount, 3);
+    EXPECT_EQ(view.ChannelCount, 3);
+    EXPECT_FALSE(view.IrregularTime);
+    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Temperat"));
+    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("P"));
+    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("kPa ab")); // 4 + 2 characters
+    EXPECT_EQ(view.Channels.ChUnit[1], QLatin1String("degC"));
+    EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfVXSeries().GetColor(1));
+    EXPECT_EQ(view.Channels.ChExpDigits[1], 0);
+}
+
+TEST_F(JlmReader, ValuesAreRoundedToTheirDecimalsAndGoThroughThePlainRule) {
+    ASSERT_TRUE(loadFiles({dir.write("v.jlm", buildJlm(threeRows()))}).ok());
+    const struct {
+        int col, row;
+        const char* text;
+    } cells[] = {
+        {2, 1, "12.3"},  {4, 1, "1.00"},   {6, 1, "8"}, // 7.5 rounds to even
+        {2, 2, "-0.1"},  {4, 2, "327.60"}, {6, 2, "32760"}, {2, 3, "1000000000.0"},
+        {4, 3, "-2.00"}, {6, 3, "6"},      {1, 1, "0000"},  {5, 3, "0000"},
+    };
+    for (const auto& c : cells) {
+        // Values beyond 16 bits keep their number, cut to the cell's 8 characters.
+        EXPECT_EQ(cellText(c.col, c.row), QLatin1String(c.text).left(8)) << c.col << "," << c.row;
+    }
+}
+
+TEST_F(JlmReader, KeysHaveTheDayBeforeTheMonth) {
+    JlmDescription d = threeRows();
+    d.keys[0] = {24, 2, 3, 4, 5, 6};
+    d.keys[1] = {24, 2, 3, 4, 5, 16};
+    d.keys[2] = {24, 2, 3, 4, 5, 26};
+    const QString path = dir.write("k.jlm", buildJlm(d));
+    ASSERT_TRUE(loadFiles({path}).ok());
+    EXPECT_EQ(TimeBase::isoText(view.ViewStart), QLatin1String("2024-03-02 04:05:06"));
+    HeadInfo info;
+    ASSERT_TRUE(FileRecognition::ScanJlmHeader(path, info));
+    EXPECT_EQ(info.start, view.ViewStart);
+    EXPECT_EQ(info.interval, 10000);
+    EXPECT_EQ(info.points, 3);
+    EXPECT_EQ(info.channels, 3);
+}
+
+TEST_F(JlmReader, OneDataRowHasIntervalZero) {
+    JlmDescription d = threeRows();
+    d.rows.resize(1);
+    d.keys.resize(1);
+    ASSERT_TRUE(loadFiles({dir.write("one.jlm", buildJlm(d))}).ok());
+    EXPECT_EQ(view.PointCount, 1);
+    EXPECT_EQ(view.SampleInterval, 0);
+    EXPECT_EQ(cellText(2, 1), QLatin1String("12.3"));
+}
+
+TEST_F(JlmReader, IrregularStepsKeepTheirRowsAndSetTheFlag) {
+    JlmDescription d = threeRows();
+    d.keys[2].second = 30; // 20 s after row 2 instead of 10
+    ASSERT_TRUE(loadFiles({dir.write("i.jlm", buildJlm(d))}).ok());
+    EXPECT_TRUE(view.IrregularTime);
+    EXPECT_EQ(view.PointCount, 3);
+    EXPECT_EQ(cellText(4, 3), QLatin1String("-2.00"));
+}
+
+TEST_F(JlmReader, FilesFollowEachOtherInFileOrder) {
+    JlmDescription a = threeRows(), b = threeRows();
+    b.keys = jlmKeys(2024, 5, 6, 10, 0, 30, 2, 10);
+    b.rows = {{1.0f, 2.0f, 3.0f}, {4.0f, 5.0f, 6.0f}};
+    ASSERT_TRUE(loadFiles({dir.write("a.jlm", buildJlm(a)), dir.write("b.jlm", buildJlm(b))}).ok());
+    EXPECT_EQ(view.PointCount, 5);
+    EXPECT_FALSE(view.IrregularTime);
+    EXPECT_EQ(cellText(2, 4), QLatin1String("1.0"));
+    EXPECT_EQ(cellText(6, 5), QLatin1String("6"));
+    // A later file that does not continue the time marks the view, and still follows in order.
+    b.keys = jlmKeys(2024, 5, 6, 9, 0, 0, 2, 10);
+    ASSERT_TRUE(loadFiles({dir.write("a.jlm", buildJlm(a)), dir.write("b.jlm", buildJlm(b))}).ok());
+    EXPECT_TRUE(view.IrregularTime);
+    EXPECT_EQ(cellText(2, 4), QLatin1String("1.0"));
+}
+
+TEST_F(JlmReader, NoDataRowFailsCleanly) {
+    JlmDescription d = threeRows();
+    d.rows.clear();
+    d.keys.clear();
+    ViewTables& v = views(1);
+    selection().clear();
+    selection().append(dir.write("e.jlm", buildJlm(d)), 0, 0);
+    copySelectionToView(v);
+    const LoadOutcome out = LoadRecording(v, LoadOptions());
+    EXPECT_EQ(out.message, 560);
+    EXPECT_EQ(v.PointCount, 0);
+    EXPECT_EQ(v.Storage.MaxCols(), 0);
+}
+
+} // namespace
