@@ -2,6 +2,7 @@
 #include "app/widgets/StartWindow.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QGuiApplication>
 
 int main(int argc, char** argv) {
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
     if (Cli::isHeadless(args)) {
         // Headless verbs never need a display.
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", QDir::tempPath().toUtf8());
         QGuiApplication app(argc, argv);
         return Cli::run(args);
     }
