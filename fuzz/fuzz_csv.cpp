@@ -1,6 +1,4 @@
-#include "recording/FamilyCodes.h"
-#include "recording/RecordingLoader.h"
-#include "recording/SelectionLists.h"
+#include "recording/CsvLoader.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,8 +6,8 @@
 #include <cstdlib>
 #include <unistd.h>
 
-// A single CSV file is opened as a drop opens it: the command line refuses it, so the selection
-// is set directly. The reader must either load the file or fail cleanly with an empty view.
+// A single CSV file is opened as a drop opens it: the command line refuses it. The reader must
+// either load the file or fail cleanly with an empty view.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static const QString dir = QStringLiteral("/dev/shm/recview-fuzz-%1").arg(getpid());
     static const bool made = QDir().mkpath(dir);
@@ -20,13 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (!f.open(QIODevice::WriteOnly)) return 0;
         f.write(reinterpret_cast<const char*>(data), qint64(size));
     }
-    SelectionLists& sel = selection();
-    sel.clear();
-    sel.append(path, 0, 0);
-    sel.SelFileType = Family::CSV;
     ViewTables& view = views(1);
-    copySelectionToView(view);
-    const LoadOutcome outcome = LoadRecording(view, LoadOptions());
+    const LoadOutcome outcome = openSingleCsv(path, view, LoadOptions());
     if (!outcome.ok() && (view.PointCount != 0 || view.Storage.MaxCols() != 0)) std::abort();
     return 0;
 }

@@ -3,7 +3,9 @@
 #include "app/LanguageTable.h"
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"
+#include "recording/FamilyCodes.h"
 #include "recording/ReaderFrame.h"
+#include "recording/SelectionLists.h"
 #include "recording/clsCSV.h"
 
 #include <QFileInfo>
@@ -105,4 +107,13 @@ LoadOutcome LoadFileDataCsv(ViewTables& view, const LoadOptions& options) {
     // the caption of message 268.
     if (outcome.ok() && tooWide) outcome = {LoadOutcome::Status::Loaded, MsgId(492), MsgText(490)};
     return outcome;
+}
+
+LoadOutcome openSingleCsv(const QString& path, ViewTables& view, const LoadOptions& options) {
+    SelectionLists& sel = selection();
+    sel.clear();
+    sel.append(path, 0, 0);
+    sel.SelFileType = Family::CSV;
+    copySelectionToView(view);
+    return LoadRecording(view, options);
 }

@@ -4,3 +4,6 @@
 
 // A CSV file of samples, one file a view.
 LoadOutcome LoadFileDataCsv(ViewTables& view, const LoadOptions& options);
+
+// Makes one CSV file the whole selection, as a drop of it does, and loads it into the view.
+LoadOutcome openSingleCsv(const QString& path, ViewTables& view, const LoadOptions& options);

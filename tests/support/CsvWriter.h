@@ -1,8 +1,6 @@
 #pragma once
 
-#include "recording/FamilyCodes.h"
-#include "recording/RecordingLoader.h"
-#include "recording/SelectionLists.h"
+#include "recording/CsvLoader.h"
 
 #include <QByteArray>
 #include <QString>
@@ -20,13 +18,7 @@ QStringList simpleCsv(int channels, int rows, QString (*value)(int row, int chan
 
 // Opens one CSV file in view 1 as a drop does (the command line refuses a single CSV file).
 inline LoadOutcome loadCsv(const QString& path) {
-    SelectionLists& sel = selection();
-    sel.clear();
-    sel.append(path, 0, 0);
-    sel.SelFileType = Family::CSV;
-    ViewTables& view = views(1);
-    copySelectionToView(view);
-    return LoadRecording(view, LoadOptions());
+    return openSingleCsv(path, views(1), {});
 }
 
 } // namespace fixtures
