@@ -34,13 +34,12 @@ void fillChannels(ViewTables& view, const clsCSV& csv, int channels) {
     }
 }
 
-// Counts the data lines by reading to the end, then opens the file again for the rows.
+// Counts the data lines by reading to the end, then goes back to the start for the rows.
 int countRows(clsCSV& csv) {
     int rows = 0;
     if (!csv.FileOpenCSV()) throw BadLine();
     while (csv.GetDataCSV()) ++rows;
-    csv.FileCloseCSV();
-    if (!csv.FileOpenCSV()) throw BadLine();
+    csv.RewindCSV();
     return rows;
 }
 
@@ -84,8 +83,7 @@ LoadOutcome LoadFileDataCsv(ViewTables& view, const LoadOptions& options) {
         int msec = 0;
         qint32 interval = 0;
         if (!csv.GetSTimeCSV(start, msec) || !csv.GetIntervalCSV(interval)) throw BadLine();
-        csv.FileCloseCSV();
-        if (!csv.FileOpenCSV()) throw BadLine();
+        csv.RewindCSV();
         view.ViewStart = view.FileStart[0] = start;
         view.ViewStartMsec = view.FileStartMsec[0] = msec;
         view.SampleInterval = interval;

@@ -14,6 +14,8 @@ public:
     // False when the file cannot be read.
     bool FileOpenCSV();
     void FileCloseCSV();
+    // Back to line 1 of the open file, without reading it again.
+    void RewindCSV() { next_ = 0; }
 
     // Reads line 1 (tags, units, channel count) and the first data line's time. False when
     // there is no data line or its date and time cannot be read.
