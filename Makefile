@@ -30,7 +30,8 @@ bench:
 	@$(MAKE) --no-print-directory build BUILD_DIR=build-release BUILD_TYPE=Release
 	@bench/run build-release
 
-fuzz:
-	@$(MAKE) --no-print-directory build BUILD_DIR=build-fuzz BUILD_TYPE=Debug \
-	  CMAKE_FLAGS="-DRECVIEW_FUZZ=ON -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_C_COMPILER=clang"
+fuzz: deps
+	@cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=Debug -DRECVIEW_FUZZ=ON \
+	  -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_C_COMPILER=clang > /dev/null
+	@$(LOCK) cmake --build build-fuzz -j $(JOBS) --target fuzzers
 	@scripts/run-fuzz build-fuzz

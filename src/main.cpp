@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 
 int main(int argc, char** argv) {
@@ -12,7 +13,16 @@ int main(int argc, char** argv) {
     if (Cli::isHeadless(args)) {
         // Headless verbs never need a display.
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", QDir::tempPath().toUtf8());
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+            // The offscreen platform wants a private runtime folder; a headless machine may have
+            // none.
+            const QString runtime = QDir::tempPath() + QStringLiteral("/recview-runtime-") +
+                                    qEnvironmentVariable("USER");
+            QDir().mkpath(runtime);
+            QFile::setPermissions(runtime, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                               QFileDevice::ExeOwner);
+            qputenv("XDG_RUNTIME_DIR", runtime.toUtf8());
+        }
         QGuiApplication app(argc, argv);
         return Cli::run(args);
     }

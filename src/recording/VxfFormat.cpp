@@ -12,6 +12,15 @@
 namespace {
 
 constexpr int kAlarmRecordSize = 14;
+
+qint64 saturatingMul(qint64 a, qint64 b) {
+    qint64 r;
+    return __builtin_mul_overflow(a, b, &r) ? INT64_MAX : r;
+}
+qint64 saturatingAdd(qint64 a, qint64 b) {
+    qint64 r;
+    return __builtin_add_overflow(a, b, &r) ? INT64_MAX : r;
+}
 const char* const kModeSuffix[] = {"", "-AVE", "-MAX", "-MIN"};
 
 } // namespace
@@ -37,15 +46,16 @@ void VxfFormat::fillProperty(const FileLoad& load) const {
     p.filled = true;
 }
 
+// Offsets of the blocks behind the rows; corrupt counts saturate instead of overflowing.
 qint64 VxfFormat::messageBase() const {
-    return qint64(head_.DataOffset) + qint64(head_.RowSize) * head_.RowCount;
+    return saturatingAdd(head_.DataOffset, saturatingMul(head_.RowSize, head_.RowCount));
 }
 
 void VxfFormat::readMessages(const FileLoad& load) {
     const FileBytes& b = load.bytes;
     const qint64 size = head_.MessageSize;
     for (quint32 i = 0; i < head_.MessageCount; ++i) {
-        const qint64 at = messageBase() + size * i;
+        const qint64 at = saturatingAdd(messageBase(), saturatingMul(size, i));
         // Records that begin beyond the end of the file hold nothing; stop there.
         if (at >= b.size() || (size == 0 && i > 0)) break;
         ViewMessage m;
@@ -80,8 +90,9 @@ void VxfFormat::fillChannels(const FileLoad& load, int channelBase) {
         const bool pair = head_.DataMode == 4;
         for (int half = 0; half < (pair ? 2 : 1); ++half) {
             if (++ch > MaxChannels) return;
-            const char* suffix = pair ? (half == 0 ? "-MIN" : "-MAX")
-                                      : head_.DataMode < 4 ? kModeSuffix[head_.DataMode] : "";
+            const char* suffix = pair                 ? (half == 0 ? "-MIN" : "-MAX")
+                                 : head_.DataMode < 4 ? kModeSuffix[head_.DataMode]
+                                                      : "";
             t.setTag(ch, channelTag(b, int(i), suffix));
             t.setUnit(ch, unit);
             t.ChColor[size_t(ch)] = color;
@@ -98,15 +109,17 @@ void VxfFormat::readAlarmHistory(const FileLoad& load) {
     if (events.files.size() <= load.fileIndex) events.files.resize(load.fileIndex + 1);
     if (alarmSize != kAlarmRecordSize) return;
     const quint16 count = b.ReadU16Le(counters + 2);
-    const qint64 base = messageBase() + qint64(head_.MessageSize) * head_.MessageCount;
+    const qint64 base =
+        saturatingAdd(messageBase(), saturatingMul(head_.MessageSize, head_.MessageCount));
     QVector<AlarmSequence>& sequences = events.files[load.fileIndex];
     bool closed = true;
     for (int i = 0; i < count; ++i) {
-        const qint64 at = base + kAlarmRecordSize * qint64(i);
+        const qint64 at = saturatingAdd(base, kAlarmRecordSize * qint64(i));
         const quint32 word0 = b.ReadU32Le(at), word1 = b.ReadU32Le(at + 4);
         const quint8 state = b.ReadByte(at + 10), mask = b.ReadByte(at + 11);
         // The value is read as 4 bytes; the last record's upper half may lie beyond the file.
-        quint32 value = i + 1 == count && !b.has(at + 12, 4) ? b.ReadU16Le(at + 12) : b.ReadU32Le(at + 12);
+        quint32 value =
+            i + 1 == count && !b.has(at + 12, 4) ? b.ReadU16Le(at + 12) : b.ReadU32Le(at + 12);
         AlarmEvent e;
         e.EventTime = closed ? TimeBase::isoText(word0) : QString::number(word0);
         e.EventMsec = QString::number(closed ? qint64(word1) * 100 : qint64(word1));
@@ -144,9 +157,9 @@ void VxfFormat::readSamples(const FileLoad& load, int channelBase, qint64 rowOff
     for (int p = 0; p < stored; ++p) {
         const int ch = channelBase + p + 1;
         const int exp = load.view.Channels.ChExpDigits[size_t(ch)];
-        const CellFormat format = exp ? CellFormat::float2(exp - 1)
-                                      : CellFormat::plain(b.ReadByte(head_.layout->decimals +
-                                                                     2 * (pair ? p / 2 : p)));
+        const CellFormat format =
+            exp ? CellFormat::float2(exp - 1)
+                : CellFormat::plain(b.ReadByte(head_.layout->decimals + 2 * (pair ? p / 2 : p)));
         values[size_t(p)] = store.beginSegment(2 * ch, first, last, format);
         alarms[size_t(p)] = store.beginSegment(2 * ch - 1, first, last, CellFormat::alarm());
     }
@@ -161,11 +174,12 @@ void VxfFormat::readSamples(const FileLoad& load, int channelBase, qint64 rowOff
             quint16* const value = values[size_t(p)] + rowOffset;
             quint16* const alarm = alarms[size_t(p)] + rowOffset;
             const bool maximum = pair && p % 2 == 1;
-            const uchar* s = data + (r0 - 1) * rowBytes + (pair ? 3 * p - (maximum ? 1 : 0) : 4 * p);
+            const uchar* s =
+                data + (r0 - 1) * rowBytes + (pair ? 3 * p - (maximum ? 1 : 0) : 4 * p);
             for (qint64 r = r0; r <= r1; ++r, s += rowBytes) {
                 value[r] = quint16(s[0] | s[1] << 8);
                 // A pair's maximum column takes two characters from the pair's first alarm byte.
-                alarm[r] = !pair ? AlarmCell::fromBytes(s[2], s[3])
+                alarm[r] = !pair     ? AlarmCell::fromBytes(s[2], s[3])
                            : maximum ? AlarmCell::fromByte(s[2])
                                      : AlarmCell::fromBytes(s[4], s[5]);
             }

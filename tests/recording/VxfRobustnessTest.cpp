@@ -78,4 +78,12 @@ TEST(VxfRobustness, HugeCountsAllocateNothing) {
     EXPECT_FALSE(views(1).Loaded);
 }
 
+TEST(VxfRobustness, OffsetsThatOverflowReadNoMessages) {
+    // Every head field 0xE0E0E0E0: the message block lies far beyond any 64-bit offset.
+    FixtureDir dir;
+    QByteArray bytes = QByteArray("VX2") + QByteArray(41, char(0xE0));
+    expectCleanOutcome(loadFiles({dir.write(QStringLiteral("o.vxf"), bytes)}), "overflow", 0);
+    EXPECT_TRUE(views(1).ViewMessages.isEmpty());
+}
+
 } // namespace
