@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/ChartTypes.h"
+#include "recording/CellFormat.h"
+#include "recording/ViewTables.h"
+#include "trend/TrendViewState.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace trendtest {
+
+constexpr double H = Chart::kHoleValue;
+
+// Raw 16-bit cells of plain channels with status words.
+constexpr qint16 kBurn = 32766;
+constexpr qint16 kOver = 32767;
+constexpr qint16 kNoData = -32766;
+constexpr qint16 kBlank = 32761;
+
+// Writes raw cells of rows first..first + raw.size() - 1 of a channel in one format.
+inline void writeRaw(clsStorage& storage, int channel, int firstRow, const std::vector<qint16>& raw,
+                     const CellFormat& format) {
+    quint16* cells =
+        storage.beginSegment(2 * channel, firstRow, firstRow + int(raw.size()) - 1, format);
+    for (size_t i = 0; i < raw.size(); ++i) cells[size_t(firstRow) + i] = quint16(raw[i]);
+}
+
+// A view of plain channels (all of `decimals`) with the given raw columns and scales, as a
+// reader leaves it: store, counts, channel table. The trend state of the view is reset.
+inline ViewTables& makeView(int viewNumber, const std::vector<std::vector<qint16>>& channels,
+                            int decimals, const QString& low = QStringLiteral("0"),
+                            const QString& high = QStringLiteral("100")) {
+    ViewTables& v = views(viewNumber);
+    v.clearRecording();
+    trendState(viewNumber).reset();
+    const int rows = channels.empty() ? 0 : int(channels[0].size());
+    v.Storage.setMaxCols(2 * int(channels.size()));
+    v.Storage.setMaxRows(rows);
+    for (size_t c = 0; c < channels.size(); ++c) {
+        writeRaw(v.Storage, int(c) + 1, 1, channels[c], CellFormat::plain(decimals));
+        v.Channels.ChScaleLow[c + 1] = low;
+        v.Channels.ChScaleHigh[c + 1] = high;
+        v.Channels.setTag(int(c) + 1, QStringLiteral("CH%1").arg(c + 1));
+        v.Channels.setUnit(int(c) + 1, QStringLiteral("degC"));
+        v.Channels.ChColor[c + 1] = 0x0000FF;
+    }
+    v.PointCount = rows;
+    v.ViewShownPoints = rows;
+    v.ChannelCount = qint16(channels.size());
+    v.ChannelCountOrig = v.ChannelCount;
+    v.SampleInterval = 1000;
+    v.ViewStart = 86400 * 100; // 2000-04-10
+    return v;
+}
+
+// A line fed by one channel with a scale.
+inline TrendLine line(int source, const QString& low = QStringLiteral("0"),
+                      const QString& high = QStringLiteral("100"), int decimals = 0) {
+    TrendLine l;
+    l.sourceColumn = qint16(source);
+    l.enabled = 1;
+    l.scaleLow = low;
+    l.scaleHigh = high;
+    l.decimals = qint16(decimals);
+    return l;
+}
+
+} // namespace trendtest
