@@ -3,17 +3,25 @@
 #include "recording/Cp932.h"
 #include "savedwork/RecordBytes.h"
 
+#include <cstdint>
+
 namespace {
 
 constexpr qint32 kMaxArrays = 1024;
 
+// A whole number for an integer entry; what does not fit is clamped, NaN gives 0.
+qint32 word(double v, qint32 low, qint32 high) {
+    if (!(v == v)) return 0;
+    return qint32(qBound(double(low), v, double(high)));
+}
+
 void encodeEntries(RecordWriter& w, const BoundedArray& a) {
     switch (a.kind) {
     case BoundedArray::Kind::Int16:
-        for (const double v : a.numbers) w.i16(qint32(v));
+        for (const double v : a.numbers) w.i16(word(v, -32768, 32767));
         break;
     case BoundedArray::Kind::Int32:
-        for (const double v : a.numbers) w.i32(qint32(v));
+        for (const double v : a.numbers) w.i32(word(v, INT32_MIN, INT32_MAX));
         break;
     case BoundedArray::Kind::Float64:
         for (const double v : a.numbers) w.f64(v);

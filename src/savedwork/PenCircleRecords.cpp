@@ -34,8 +34,10 @@ bool readArrays(const QString& name, QVector<BoundedArray>& arrays) {
 
 bool WritePenData(const PenDataRecord& r) {
     using K = BoundedArray::Kind;
+    QVector<qint32> colors; // as signed 32-bit words, so that the double holds them exactly
+    for (const quint32 c : r.Color) colors.append(qint32(c));
     const QVector<BoundedArray> arrays{
-        numeric(K::Int32, r.Lower, r.Color),      numeric(K::Int16, r.Lower, r.Pattern),
+        numeric(K::Int32, r.Lower, colors),       numeric(K::Int16, r.Lower, r.Pattern),
         numeric(K::Int16, r.Lower, r.Width),      numeric(K::Int16, r.Lower, r.Symbol),
         numeric(K::Int16, r.Lower, r.SymbolSize), numeric(K::Int16, r.Lower, r.Shown)};
     return RecordFile::write(RecordNames::writePath(RecordNames::PenData),

@@ -1,0 +1,119 @@
+#include "RecordTestSupport.h"
+
+#include "app/AppPaths.h"
+#include "savedwork/RecordNames.h"
+#include "savedwork/SavedWorkRecords.h"
+#include "trend/TrendViewState.h"
+
+#include <limits>
+
+using namespace RecordBytesAt;
+
+namespace {
+
+void fillZoom(TrendViewState& t) {
+    t.ZoomLevel = 100;
+    t.PointScale = 1;
+    t.BarPosition = std::numeric_limits<qint32>::max();
+    t.CursorAOn = true;
+    t.ScalePercentMode = true;
+    for (size_t level = 0; level < t.ZoomX.size(); ++level) {
+        t.ZoomX[level] = {qint32(-level), qint32(level * 1000), std::numeric_limits<qint32>::min()};
+        t.ZoomY[level] = {0.0, -1.7976931348623157e308, 4.9e-324 * double(level)};
+    }
+    t.ScrollBars[0] = {0, 32767, 123, 1, 100};
+    t.ScrollBars[3] = {-32768, 0, -5, 2, 20};
+    t.AxisChannel = {372, 2};
+    t.ScaleType = 2;
+    t.ScrollScale = 32767;
+}
+
+} // namespace
+
+using ZoomAndAlarmRecordTest = RecordDirs;
+
+TEST_F(ZoomAndAlarmRecordTest, ZoomStackStandsInRowsOfLevels) {
+    fillZoom(trendState(kView));
+    ASSERT_TRUE(WriteSaveParaData(kView));
+    const QByteArray b = readAll(AppPaths(1) + RecordNames::SaveParaData);
+    ASSERT_EQ(b.size(), 3732);
+    EXPECT_EQ(le(b, 0, 2), 100);
+    EXPECT_EQ(le(b, 2, 2), kView);
+    for (const int level : {0, 7, 100}) {
+        SCOPED_TRACE(level);
+        for (int slot = 0; slot < 3; ++slot) {
+            EXPECT_EQ(le(b, 16 + 4 * (slot * 101 + level), 4),
+                      trendState(kView).ZoomX[size_t(level)][size_t(slot)]);
+            EXPECT_EQ(f64(b, 1228 + 8 * (slot * 101 + level)),
+                      trendState(kView).ZoomY[size_t(level)][size_t(slot)]);
+        }
+    }
+}
+
+TEST_F(ZoomAndAlarmRecordTest, ZoomStackAndScrollBarsRoundTrip) {
+    fillZoom(trendState(kView));
+    const TrendViewState before = trendState(kView);
+    ASSERT_TRUE(WriteSaveParaData(kView));
+    carryOver(RecordNames::SaveParaData);
+    trendState(kView).reset();
+    ASSERT_TRUE(ReadSaveParaData(kView));
+    const TrendViewState& t = trendState(kView);
+    EXPECT_EQ(t.ZoomLevel, before.ZoomLevel);
+    EXPECT_EQ(t.BarPosition, before.BarPosition);
+    EXPECT_TRUE(t.CursorAOn);
+    EXPECT_FALSE(t.CursorBOn);
+    EXPECT_TRUE(t.ScalePercentMode);
+    EXPECT_EQ(t.ZoomX, before.ZoomX);
+    EXPECT_EQ(t.ZoomY, before.ZoomY);
+    EXPECT_EQ(t.ScrollBars, before.ScrollBars);
+    EXPECT_EQ(t.AxisChannel, before.AxisChannel);
+    EXPECT_EQ(t.ScaleType, 2);
+    EXPECT_EQ(t.ScrollScale, 32767);
+}
+
+TEST_F(ZoomAndAlarmRecordTest, ARecordOfAnotherViewKeepsTheReadersViewNumber) {
+    fillZoom(trendState(kView + 1));
+    ASSERT_TRUE(WriteSaveParaData(kView + 1));
+    carryOver(RecordNames::SaveParaData);
+    ASSERT_TRUE(ReadSaveParaData(kView));
+    EXPECT_EQ(trendState(kView).ZoomLevel, 100);
+    trendState(kView + 1).reset();
+}
+
+TEST_F(ZoomAndAlarmRecordTest, AlarmStylesAreThreeWholeArraysOfSlotBlocks) {
+    TrendViewState& t = trendState(kView);
+    t.AlarmSymbol[0][0] = -32768;
+    t.AlarmSymbol[5][371] = 32767;
+    t.AlarmColor[2][10] = 0xFFFFFFFFu;
+    t.AlarmSize[4][200] = 9;
+    ASSERT_TRUE(WriteAlmStyle(kView));
+    const QByteArray b = readAll(AppPaths(1) + RecordNames::AlmStyle);
+    ASSERT_EQ(b.size(), 17856);
+    EXPECT_EQ(le(b, 0, 2), -32768);
+    EXPECT_EQ(le(b, 2 * (5 * 372 + 371), 2), 32767);
+    EXPECT_EQ(le(b, 2 * (1 * 372 + 0), 2), 2);  // default symbol of slot 2
+    EXPECT_EQ(le(b, 2 * (5 * 372 + 0), 2), 10); // default symbol of slot 6
+    EXPECT_EQ(quint32(le(b, 4464 + 4 * (2 * 372 + 10), 4)), 0xFFFFFFFFu);
+    EXPECT_EQ(le(b, 4464 + 4 * (2 * 372 + 11), 4), 0x0000FF); // default red
+    EXPECT_EQ(le(b, 13392 + 2 * (4 * 372 + 200), 2), 9);
+    EXPECT_EQ(le(b, 13392, 2), 4); // default size
+
+    const TrendViewState before = t;
+    carryOver(RecordNames::AlmStyle);
+    t.reset();
+    ASSERT_TRUE(ReadAlmStyle(kView));
+    EXPECT_EQ(t.AlarmSymbol, before.AlarmSymbol);
+    EXPECT_EQ(t.AlarmColor, before.AlarmColor);
+    EXPECT_EQ(t.AlarmSize, before.AlarmSize);
+}
+
+TEST_F(ZoomAndAlarmRecordTest, MissingRecordsLeaveTheViewAsItWas) {
+    fillZoom(trendState(kView));
+    trendState(kView).AlarmSize[0][0] = 7;
+    const TrendViewState before = trendState(kView);
+    EXPECT_FALSE(ReadSaveParaData(kView));
+    EXPECT_FALSE(ReadAlmStyle(kView));
+    EXPECT_FALSE(ReadTrndParaSet(kView));
+    EXPECT_EQ(trendState(kView).ZoomX, before.ZoomX);
+    EXPECT_EQ(trendState(kView).AlarmSize, before.AlarmSize);
+}
