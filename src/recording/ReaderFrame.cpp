@@ -24,8 +24,8 @@ void ReaderFrame::begin() const {
     view_.ViewCancel = false;
 }
 
-LoadOutcome ReaderFrame::finish() const {
-    finishLoad(view_, false);
+LoadOutcome ReaderFrame::finish(bool firstIsVxf) const {
+    finishLoad(view_, firstIsVxf);
     view_.Loading = false;
     if (view_.PointCount == 0) return fail(LoadOutcome::Status::Empty, MsgId(578));
     view_.Loaded = true;

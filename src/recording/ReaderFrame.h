@@ -19,7 +19,8 @@ public:
     // Marks the view as loading with its recording emptied.
     void begin() const;
     // The outcome of a load that ended with the view filled: row counts, then 578 when empty.
-    LoadOutcome finish() const;
+    // A first VXF file with alarm events shows at least MinPointsVXF points.
+    LoadOutcome finish(bool firstIsVxf = false) const;
     // Empties the view after a failure or a cancel.
     LoadOutcome fail(LoadOutcome::Status status, int message, const QString& detail = {}) const;
 

@@ -2,17 +2,17 @@
 
 #include "app/LanguageTable.h"
 
-#include "recording/FamilyCodes.h"
 #include "recording/CsvLoader.h"
+#include "recording/FamilyCodes.h"
 #include "recording/FamilyHeads.h"
 #include "recording/FileRecognition.h"
 #include "recording/FormatReader.h"
 #include "recording/JlmLoader.h"
 #include "recording/MsgFiles.h"
+#include "recording/ReaderFrame.h"
 #include "recording/RowPlacement.h"
 #include "recording/SelectionLists.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -20,26 +20,19 @@
 
 namespace {
 
-// Reads a whole file with one call.
-bool readWhole(const QString& path, QByteArray& out) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    out.resize(file.size());
-    return file.read(out.data(), out.size()) == out.size();
-}
-
 class CoreReader {
 public:
-    CoreReader(ViewTables& view, const LoadOptions& options) : view_(view), options_(options) {}
+    CoreReader(ViewTables& view, const LoadOptions& options)
+        : view_(view), options_(options), frame_(view, options) {}
     void run();
 
 private:
     void readFile(int index);
     void setUpView(const FormatReader& reader, int format);
-    void poll(int fileIndex, qint64 row, qint64 rows);
 
     ViewTables& view_;
     const LoadOptions& options_;
+    ReaderFrame frame_;
     QVector<int> fileChannels_;
 
 public:
@@ -47,19 +40,6 @@ public:
     int channelTotal = 0;
     bool channelsKnown = false; // a failure from here on reports the channel count
 };
-
-void CoreReader::poll(int fileIndex, qint64 row, qint64 rows) {
-    if (options_.progress) {
-        const int share = int((fileIndex + double(row) / std::max<qint64>(rows, 1)) * 50 /
-                              std::max(view_.FileCount, 1));
-        options_.progress->setValue(share);
-        if (options_.progress->poll()) view_.ViewCancel = true;
-    }
-    if (view_.ViewCancel) {
-        view_.ViewCancel = false;
-        if (options_.confirmCancel()) throw LoadCancelled();
-    }
-}
 
 void CoreReader::setUpView(const FormatReader& reader, int format) {
     view_.Storage.Action(28);
@@ -70,9 +50,9 @@ void CoreReader::setUpView(const FormatReader& reader, int format) {
 }
 
 void CoreReader::readFile(int index) {
-    poll(index, 0, 1);
+    frame_.poll(index, 0, 1);
     QByteArray data;
-    if (!readWhole(view_.FileName[index], data)) throw ReadPastEnd();
+    if (!readWholeFile(view_.FileName[index], data)) throw ReadPastEnd();
     const FileBytes bytes(std::move(data));
     if (index == 0) {
         view_.ViewTitle = QFileInfo(view_.FileName[0]).fileName();
@@ -82,7 +62,7 @@ void CoreReader::readFile(int index) {
     const int format = formatOfMagic(bytes.magic(), options_.gsMode);
     auto reader = makeFormatReader(format);
     FileLoad load{view_, bytes, index, options_.gsMode,
-                  [this, index](qint64 row, qint64 rows) { poll(index, row, rows); }};
+                  [this, index](qint64 row, qint64 rows) { frame_.poll(index, row, rows); }};
     reader->readHead(load);
     if (index == 0) {
         firstFormat = format;
@@ -104,7 +84,8 @@ void CoreReader::readFile(int index) {
                         : RowPlacement::offsetByTime(view_.ViewStart, reader->startTime(),
                                                      view_.SampleInterval);
     if (FileJoinByOrder != 1 && (format == Format::TM6 || format == Format::TM12))
-        offset = RowPlacement::tmTolerance(offset, view_.Storage.DataRowCnt(), view_.SampleInterval);
+        offset =
+            RowPlacement::tmTolerance(offset, view_.Storage.DataRowCnt(), view_.SampleInterval);
     const qint64 lastRow = offset + reader->rowCount();
     if (lastRow > INT32_MAX - 1) throw ReadPastEnd();
     if (lastRow > view_.Storage.MaxRows()) view_.Storage.setMaxRows(int(lastRow));
@@ -118,11 +99,6 @@ void CoreReader::run() {
     view_.FileStartMsec.resize(view_.FileCount);
     for (int i = 0; i < view_.FileCount; ++i) readFile(i);
     ReadMsgFiles(view_);
-}
-
-void resetView(ViewTables& view) {
-    view.clearRecording();
-    view.Loading = false;
 }
 
 } // namespace
@@ -141,9 +117,8 @@ void finishLoad(ViewTables& view, bool firstIsVxf) {
     clsStorage& s = view.Storage;
     const int total = s.MaxRows();
     view.PointCount = total;
-    view.ViewShownPoints = firstIsVxf && view.AlarmEvents.any() && total < MinPointsVXF
-                               ? MinPointsVXF
-                               : total;
+    view.ViewShownPoints =
+        firstIsVxf && view.AlarmEvents.any() && total < MinPointsVXF ? MinPointsVXF : total;
     view.ViewRowCount = qint16(std::min(total, MaxRowsShown));
     view.ChannelCount = qint16(s.MaxCols() / 2);
     view.ChannelCountOrig = view.ChannelCount;
@@ -153,38 +128,27 @@ void finishLoad(ViewTables& view, bool firstIsVxf) {
 }
 
 LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options) {
-    LoadOutcome outcome;
-    if (view.FileCount < 1 || view.FileName.isEmpty()) return {LoadOutcome::Status::NotHandled, 0, {}};
+    const LoadOutcome notHandled{LoadOutcome::Status::NotHandled, 0, {}};
+    if (view.FileCount < 1 || view.FileName.isEmpty()) return notHandled;
     const QString ext = FileRecognition::extensionOf(view.FileName.first());
-    if (ext == QLatin1String(".VXB")) return {LoadOutcome::Status::NotHandled, 0, {}};
+    if (ext == QLatin1String(".VXB")) return notHandled;
     if (view.FileType == Family::CSV) return LoadFileDataCsv(view, options);
     if (ext == QLatin1String(".JLM")) return LoadJlm(view, options);
 
-    view.clearRecording();
-    view.Loading = true;
-    view.ViewCancel = false;
+    const ReaderFrame frame(view, options);
+    frame.begin();
     CoreReader reader(view, options);
     try {
         reader.run();
     } catch (const LoadCancelled&) {
-        resetView(view);
-        return {LoadOutcome::Status::Cancelled, 0, {}};
+        return frame.fail(LoadOutcome::Status::Cancelled, 0);
     } catch (const std::bad_alloc&) {
-        resetView(view);
-        return {LoadOutcome::Status::Failed, MsgId(560), {}};
+        return frame.fail(LoadOutcome::Status::Failed, MsgId(560));
     } catch (...) {
-        resetView(view);
         if (reader.channelsKnown)
-            return {LoadOutcome::Status::Failed, MsgId(587),
-                    QStringLiteral("CHCount = %1").arg(reader.channelTotal)};
-        return {LoadOutcome::Status::Failed, MsgId(560), {}};
+            return frame.fail(LoadOutcome::Status::Failed, MsgId(587),
+                              QStringLiteral("CHCount = %1").arg(reader.channelTotal));
+        return frame.fail(LoadOutcome::Status::Failed, MsgId(560));
     }
-    finishLoad(view, reader.firstFormat == Format::VXF);
-    view.Loading = false;
-    if (view.PointCount == 0) {
-        resetView(view);
-        return {LoadOutcome::Status::Empty, MsgId(578), {}};
-    }
-    view.Loaded = true;
-    return outcome;
+    return frame.finish(reader.firstFormat == Format::VXF);
 }

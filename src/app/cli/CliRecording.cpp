@@ -2,6 +2,7 @@
 
 #include "app/LanguageTable.h"
 #include "recording/CommandFiles.h"
+#include "recording/CsvLoader.h"
 #include "recording/FamilyCodes.h"
 #include "recording/FileRecognition.h"
 #include "recording/SelectionLists.h"
@@ -10,19 +11,23 @@
 
 namespace Cli {
 
-QString messageText(int number) { return MsgText(number); }
+QString messageText(int number) {
+    return MsgText(number);
+}
 
 RecordingArgs splitRecordingArgs(const QStringList& args) {
     RecordingArgs out;
     for (int i = 0; i < args.size(); ++i) {
         const QString& a = args[i];
-        if (a == QLatin1String("--gs")) out.gsMode = true;
+        if (a == QLatin1String("--gs"))
+            out.gsMode = true;
         else if (a.startsWith(QLatin1String("--"))) {
             out.rest << a;
             if (i + 1 < args.size() && !args[i + 1].startsWith(QLatin1String("--")) &&
                 a != QLatin1String("--json"))
                 out.rest << args[++i];
-        } else out.files << a;
+        } else
+            out.files << a;
     }
     return out;
 }
@@ -31,33 +36,35 @@ ViewTables* openRecording(const RecordingArgs& args) {
     QTextStream err(stderr);
     SelectionLists& sel = selection();
     sel.clear();
-    if (args.files.size() == 1 && FileRecognition::extensionOf(args.files[0]) == QLatin1String(".CSV")) {
-        sel.append(args.files[0], 0, 0);
-        sel.SelFileType = Family::CSV;
-    } else {
-        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(args.files), args.gsMode);
-    }
-    if (sel.SelFileCount == 0) {
-        err << messageText(561) << "\n";
-        return nullptr;
-    }
     ViewTables& view = views(1);
-    copySelectionToView(view);
     NoProgress progress;
     LoadOptions options;
     options.gsMode = args.gsMode;
     options.progress = &progress;
-    const LoadOutcome outcome = LoadRecording(view, options);
+    LoadOutcome outcome;
+    // One CSV file opens as a drop opens it; the command line itself refuses CSV files.
+    if (args.files.size() == 1 &&
+        FileRecognition::extensionOf(args.files[0]) == QLatin1String(".CSV")) {
+        outcome = openSingleCsv(args.files[0], view, options);
+    } else {
+        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(args.files), args.gsMode);
+        if (sel.SelFileCount == 0) {
+            err << messageText(561) << "\n";
+            return nullptr;
+        }
+        copySelectionToView(view);
+        outcome = LoadRecording(view, options);
+    }
     if (outcome.status == LoadOutcome::Status::NotHandled) {
         err << "recview: " << args.files.value(0) << ": a saved trend archive, not a recording\n";
         return nullptr;
     }
-    if (!outcome.ok()) {
+    if (outcome.message != 0) { // a failure, or a warning of a load that went on
         err << messageText(outcome.message);
         if (!outcome.detail.isEmpty()) err << "\n" << outcome.detail;
         err << "\n";
-        return nullptr;
     }
+    if (!outcome.ok()) return nullptr;
     return &view;
 }
 

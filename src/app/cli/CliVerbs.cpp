@@ -4,9 +4,10 @@ namespace Cli {
 
 extern const Verb kDumpVerb;
 extern const Verb kInfoVerb;
+extern const Verb kRenderVerb;
 
 const Verb* findVerb(const QString& name) {
-    static const Verb* const kVerbs[] = {&kDumpVerb, &kInfoVerb};
+    static const Verb* const kVerbs[] = {&kDumpVerb, &kInfoVerb, &kRenderVerb};
     for (const Verb* verb : kVerbs)
         if (name == QLatin1String(verb->name)) return verb;
     return nullptr;

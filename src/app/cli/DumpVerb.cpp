@@ -1,7 +1,6 @@
 #include "app/TimeBase.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
-#include "recording/SelectionLists.h"
 
 #include <QTextStream>
 
@@ -13,7 +12,9 @@ namespace Cli {
 
 namespace {
 
-std::string utf8(const QString& s) { return s.toStdString(); }
+std::string utf8(const QString& s) {
+    return s.toStdString();
+}
 
 nlohmann::json channelsJson(const ViewTables& v) {
     nlohmann::json list = nlohmann::json::array();
@@ -79,7 +80,7 @@ int runDump(const QStringList& args) {
     const ViewTables* view = openRecording(parsed);
     if (!view) return 1;
     lastRow = lastRow < 0 ? view->PointCount : std::min(lastRow, int(view->PointCount));
-    nlohmann::json out = {{"family", selection().SelFileType},
+    nlohmann::json out = {{"family", view->FileType},
                           {"interval_ms", view->SampleInterval},
                           {"start", utf8(TimeBase::isoText(view->ViewStart))},
                           {"start_msec", view->ViewStartMsec},

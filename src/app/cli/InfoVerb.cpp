@@ -1,7 +1,6 @@
 #include "app/TimeBase.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
-#include "recording/SelectionLists.h"
 
 #include <QTextStream>
 
@@ -11,15 +10,24 @@ namespace {
 
 const char* familyName(int code) {
     switch (code) {
-    case 0: return "VXF";
-    case 1: return "VXB";
-    case 2: return "QDF";
-    case 3: return "TM";
-    case 4: return "N5F/P4F";
-    case 5: return "CSV";
-    case 6: return "JLM";
-    case 34: return "P4F";
-    default: return "?";
+    case 0:
+        return "VXF";
+    case 1:
+        return "VXB";
+    case 2:
+        return "QDF";
+    case 3:
+        return "TM";
+    case 4:
+        return "N5F/P4F";
+    case 5:
+        return "CSV";
+    case 6:
+        return "JLM";
+    case 34:
+        return "P4F";
+    default:
+        return "?";
     }
 }
 
@@ -32,7 +40,10 @@ int runInfo(const QStringList& args) {
     const ViewTables* view = openRecording(parsed);
     if (!view) return 1;
     QTextStream out(stdout);
-    out << "family:   " << familyName(selection().SelFileType) << " (" << selection().SelFileType << ")\n"
+    // A JLM selection stands as family 0; its files tell it apart.
+    const bool jlm = view->FileName.value(0).endsWith(QLatin1String(".jlm"), Qt::CaseInsensitive);
+    out << "family:   " << (jlm ? "JLM" : familyName(view->FileType)) << " (" << view->FileType
+        << ")\n"
         << "files:    " << view->FileCount << "\n"
         << "start:    " << TimeBase::isoText(view->ViewStart)
         << QStringLiteral(".%1").arg(view->ViewStartMsec, 3, 10, QLatin1Char('0')) << "\n"
