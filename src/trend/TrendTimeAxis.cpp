@@ -111,25 +111,23 @@ bool parseTimeText(const QString& text, qint64& seconds, int& msec) {
     return true;
 }
 
+qint64 secondsToIndex(qint64 t, int msec, qint32 interval, qint64 start, int startMsec) {
+    const qint64 i = interval;
+    if (i >= 1 && i < kMinute) return floorDiv((t - start) * 1000 + msec - startMsec, i);
+    if (i >= kMinute && i < kHour)
+        return floorDiv(TimeBase::boundariesBetween(TimeBase::Unit::Minute, start, t), i / kMinute);
+    if (i >= kHour && i < kDay)
+        return floorDiv(TimeBase::boundariesBetween(TimeBase::Unit::Hour, start, t), i / kHour);
+    const qint64 days = std::max<qint64>(i / kDay, 1);
+    return floorDiv(TimeBase::boundariesBetween(TimeBase::Unit::Day, start, t), days);
+}
+
 bool timeToIndex(const QString& dateText, const QString& timeText, qint32 interval, qint64 start,
                  int startMsec, qint64& index) {
     qint64 day, secs;
     int msec;
     if (!parseDateText(dateText, day) || !parseTimeText(timeText, secs, msec)) return false;
-    const qint64 t = day + secs;
-    const qint64 i = interval;
-    if (i >= 1 && i < kMinute) {
-        const qint64 thousandths = (t - start) * 1000 + msec - startMsec;
-        index = floorDiv(thousandths, i);
-    } else if (i >= kMinute && i < kHour) {
-        index =
-            floorDiv(TimeBase::boundariesBetween(TimeBase::Unit::Minute, start, t), i / kMinute);
-    } else if (i >= kHour && i < kDay) {
-        index = floorDiv(TimeBase::boundariesBetween(TimeBase::Unit::Hour, start, t), i / kHour);
-    } else {
-        const qint64 days = std::max<qint64>(i / kDay, 1);
-        index = floorDiv(TimeBase::boundariesBetween(TimeBase::Unit::Day, start, t), days);
-    }
+    index = secondsToIndex(day + secs, msec, interval, start, startMsec);
     return true;
 }
 

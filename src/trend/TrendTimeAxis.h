@@ -27,6 +27,8 @@ SampleTime SampleTimeText(qint64 index, int viewNumber);
 // negative before the start. False when the texts are not a date and a time.
 bool timeToIndex(const QString& dateText, const QString& timeText, qint32 interval, qint64 start,
                  int startMsec, qint64& index);
+// The same for a time in seconds since 2000 and milliseconds.
+qint64 secondsToIndex(qint64 seconds, int msec, qint32 interval, qint64 start, int startMsec);
 bool TimeToIndex(const QString& dateText, const QString& timeText, int viewNumber, qint64& index);
 
 // Reads a date text in the locale's order ("dd/mm/yyyy" ...) and a time "h:nn[:ss[.fff]]".

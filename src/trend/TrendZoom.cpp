@@ -29,7 +29,7 @@ void TrendZoom::setTitle(const QString& text) {
     if (!title) {
         title = &labels.add(kTitleLabel);
         title->Anchor = Chart::Anchor::SouthEast;
-        title->AttachCoord = QPointF(8, 4);
+        title->AttachCoord = QPointF(64, 2);
     }
     title->IsBatched = true;
     title->Text = text;
