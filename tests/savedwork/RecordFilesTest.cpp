@@ -18,36 +18,27 @@ using namespace RecordBytesAt;
 
 namespace {
 
+// Old and new length answers of a record class for the file in the archive work directory.
+template <typename Pair> std::pair<bool, bool> answers() {
+    auto record = std::make_unique<Pair>();
+    bool isOld = false;
+    bool isNew = false;
+    record->CheckOldFileSize(isOld);
+    record->CheckNewFileSize(isNew);
+    return {isOld, isNew};
+}
+
 struct Layout {
     QString name;
     qint64 oldLength;
     qint64 newLength;
+    std::pair<bool, bool> (*checks)();
 };
 
-const Layout kLayouts[] = {{RecordNames::FileHeader, 3840, 11160},
-                           {RecordNames::TrndParaSet, 4214, 13514},
-                           {RecordNames::SaveParaData, 3742, 3732},
-                           {RecordNames::AlmStyle, 6144, 17856}};
-
-// Old and new length answers of the class that owns `name`.
-std::pair<bool, bool> checks(const QString& name) {
-    bool o = false;
-    bool n = false;
-    if (name == RecordNames::FileHeader) {
-        clsFileHeader c;
-        c.CheckOldFileSize(o), c.CheckNewFileSize(n);
-    } else if (name == RecordNames::TrndParaSet) {
-        auto c = std::make_unique<clsTrndParaSet>();
-        c->CheckOldFileSize(o), c->CheckNewFileSize(n);
-    } else if (name == RecordNames::SaveParaData) {
-        clsSaveParaData c;
-        c.CheckOldFileSize(o), c.CheckNewFileSize(n);
-    } else {
-        auto c = std::make_unique<clsAlmStyle>();
-        c->CheckOldFileSize(o), c->CheckNewFileSize(n);
-    }
-    return {o, n};
-}
+const Layout kLayouts[] = {{RecordNames::FileHeader, 3840, 11160, answers<clsFileHeader>},
+                           {RecordNames::TrndParaSet, 4214, 13514, answers<clsTrndParaSet>},
+                           {RecordNames::SaveParaData, 3742, 3732, answers<clsSaveParaData>},
+                           {RecordNames::AlmStyle, 6144, 17856, answers<clsAlmStyle>}};
 
 } // namespace
 
@@ -57,14 +48,14 @@ TEST_F(RecordFilesTest, RecordsAreToldApartByLengthAlone) {
     for (const Layout& l : kLayouts) {
         SCOPED_TRACE(l.name.toStdString());
         const QString path = AppPaths(2) + l.name;
-        EXPECT_EQ(checks(l.name), std::make_pair(false, false)) << "missing";
+        EXPECT_EQ(l.checks(), std::make_pair(false, false)) << "missing";
         const std::pair<qint64, std::pair<bool, bool>> cases[] = {{l.oldLength, {true, false}},
                                                                   {l.newLength, {false, true}},
                                                                   {l.newLength - 1, {false, false}},
                                                                   {0, {false, false}}};
         for (const auto& [length, expected] : cases) {
             writeAll(path, QByteArray(length, '\x5A'));
-            EXPECT_EQ(checks(l.name), expected) << length;
+            EXPECT_EQ(l.checks(), expected) << length;
         }
     }
 }
