@@ -1,0 +1,45 @@
+#include "app/widgets/frmProgress.h"
+
+#include "app/LanguageTable.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+frmProgress::frmProgress(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(QStringLiteral("recview"));
+    setModal(false);
+    message_ = new QLabel(MsgText(96), this);
+    bar_ = new QProgressBar(this);
+    bar_->setRange(0, 100);
+    auto* btnCancel = new QPushButton(MsgText(47), this);
+    connect(btnCancel, &QPushButton::clicked, this, [this] { cancelled_ = true; });
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(message_);
+    layout->addWidget(bar_);
+    layout->addWidget(btnCancel, 0, Qt::AlignRight);
+    setMinimumWidth(360);
+}
+
+void frmProgress::setMessage(const QString& text) {
+    message_->setText(text);
+}
+
+void frmProgress::setValue(int percent) {
+    bar_->setValue(percent);
+}
+
+bool frmProgress::poll() {
+    // Events are let through at most every 50 ms: polls come between rows.
+    static QElapsedTimer sinceLast;
+    if (!sinceLast.isValid() || sinceLast.elapsed() > 50) {
+        QCoreApplication::processEvents();
+        sinceLast.restart();
+    }
+    const bool cancel = cancelled_;
+    cancelled_ = false;
+    return cancel;
+}
