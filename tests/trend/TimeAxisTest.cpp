@@ -1,0 +1,120 @@
+#include "TrendFixture.h"
+#include "app/VbFormat.h"
+#include "app/clsCommon.h"
+#include "trend/TrendTimeAxis.h"
+#include "trend/TrendView.h"
+
+#include <gtest/gtest.h>
+
+using namespace trendtest;
+
+namespace {
+
+constexpr qint64 kStart = 86400 * 100 + 3600 * 10; // 2000-04-10 10:00:00
+
+QString dec() {
+    return VbFormat::Separators::system().decimal;
+}
+
+} // namespace
+
+// The time of a sample in each interval unit: seconds and remainder, and the fraction digits
+// that the interval allows.
+TEST(SampleTimeText, EachUnitAndFraction) {
+    const struct {
+        qint32 interval;
+        qint64 index;
+        int startMsec;
+        qint64 seconds; // after the start
+        int msec;
+        const char* fraction; // behind the decimal sign; nullptr: no fraction at all
+    } cases[] = {
+        {500, 3, 0, 1, 500, "5"},  // T + 1 s and 500 ms
+        {100, 10, 0, 1, 0, "0"},   // a whole second at 100 ms reads ".0"
+        {250, 1, 0, 0, 250, "25"}, // 100..999 ms: as the remainder writes itself
+        {10, 3, 0, 0, 30, "03"},   // 10..99 ms: two digits
+        {10, 10, 0, 0, 100, "10"},
+        {1, 5, 0, 0, 5, "005"}, // 1..9 ms: three digits
+        {1, 1000, 0, 1, 0, "000"},
+        {200, 4, 900, 1, 700, "7"},     // the start's milliseconds count
+        {1500, 1, 0, 2, -500, nullptr}, // x = 1.5 rounds to 2 seconds (halves to even)
+        {1500, 3, 0, 4, 500, nullptr},  // x = 4.5 rounds to 4
+        {1000, 7, 0, 7, 0, nullptr},
+        {60000, 90, 0, 90 * 60, 0, nullptr},
+        {120000, 3, 0, 6 * 60, 0, nullptr},
+        {3600000, 25, 0, 25 * 3600, 0, nullptr},
+        {86400000, 2, 0, 2 * 86400, 0, nullptr},
+        {172800000, 3, 0, 6 * 86400, 0, nullptr},
+        // 999 ms x 3,599,999 passes 2^31 ms: still exact.
+        {999, 3599999, 0, 3596399, 1, "001"},
+    };
+    for (const auto& c : cases) {
+        const SampleTime t = sampleTime(c.index, c.interval, kStart, c.startMsec);
+        SCOPED_TRACE(
+            QStringLiteral("interval %1 index %2").arg(c.interval).arg(c.index).toStdString());
+        EXPECT_EQ(t.seconds - kStart, c.seconds);
+        EXPECT_EQ(t.msec, c.msec);
+        const QString whole = VbFormat::formatSeconds(
+            t.seconds, clsCommon::shared().GetTimeFormat(4), VbFormat::Separators::system());
+        EXPECT_EQ(t.timeText, whole);
+        if (c.fraction) {
+            EXPECT_EQ(t.time, whole + dec() + QLatin1String(c.fraction));
+        } else if (c.interval < 60000) {
+            EXPECT_EQ(t.time, whole);
+        } else {
+            EXPECT_EQ(t.time,
+                      VbFormat::formatSeconds(t.seconds, clsCommon::shared().GetTimeFormat(1),
+                                              VbFormat::Separators::system()));
+        }
+        EXPECT_EQ(t.dateTime, t.date + QLatin1Char(' ') + t.time);
+    }
+}
+
+// TimeToIndex undoes SampleTimeText in every unit; a time before the start is negative.
+TEST(SampleTimeText, TimeToIndexIsTheInverse) {
+    for (qint32 interval : {10, 500, 1000, 5000, 60000, 600000, 3600000, 86400000}) {
+        for (qint64 k : {0, 1, 7, 1234}) {
+            const SampleTime t = sampleTime(k, interval, kStart, 0);
+            qint64 index = -99;
+            ASSERT_TRUE(timeToIndex(t.date, t.time, interval, kStart, 0, index));
+            EXPECT_EQ(index, k) << interval;
+        }
+    }
+    const SampleTime before = sampleTime(0, 1000, kStart - 5, 0);
+    qint64 index = 0;
+    ASSERT_TRUE(timeToIndex(before.date, before.time, 1000, kStart, 0, index));
+    EXPECT_EQ(index, -5);
+    EXPECT_FALSE(timeToIndex(QStringLiteral("yesterday"), QStringLiteral("10:00:00"), 1000, kStart,
+                             0, index));
+    EXPECT_FALSE(timeToIndex(before.date, QStringLiteral("25:00:00"), 1000, kStart, 0, index));
+}
+
+// Labels at the chosen interval show times; a date stands only where the day changes.
+TEST(XAxisSet, DateOnlyAtDayChanges) {
+    ViewTables& v = makeView(6, {std::vector<qint16>(49, 1)}, 0);
+    v.SampleInterval = 3600000;
+    v.ViewStart = 86400 * 100; // midnight
+    TrendView view(6);
+    ASSERT_TRUE(view.afterLoad());
+    view.state().TimeLabelInterval = {6, 3};
+    view.zoom().SetDataRange(1, 49);
+    const ValueLabels& labels = view.chart().axisX().valueLabels();
+    int texts = 0, grid = 0, dated = 0;
+    for (const ValueLabel& l : labels.items()) {
+        if (l.text.isEmpty()) {
+            ++grid;
+            EXPECT_NE(qint64(l.value) % 6, 0);
+            continue;
+        }
+        ++texts;
+        EXPECT_EQ(qint64(l.value) % 6, 0);
+        const bool hasDate = l.text.contains(QLatin1Char('\n'));
+        dated += hasDate;
+        // Hours 18 and 0 stand next to a day change, the others (and the very first) do not.
+        const qint64 hour = qint64(l.value) % 24;
+        EXPECT_EQ(hasDate, hour == 18 || (hour == 0 && l.value > 0)) << l.text.toStdString();
+    }
+    EXPECT_EQ(texts, 9);
+    EXPECT_EQ(grid, 8);
+    EXPECT_EQ(dated, 4);
+}
