@@ -14,6 +14,7 @@ void ViewTables::clearRecording() {
     Loaded = false;
     NoDataFlag = false;
     IrregularTime = false;
+    BatchInfoFound = false;
     PointCount = 0;
     ViewShownPoints = 0;
     ViewRowCount = 0;

@@ -29,6 +29,7 @@ struct ViewTables {
     bool Loaded = false;
     bool NoDataFlag = false;
     bool IrregularTime = false;
+    bool BatchInfoFound = false; // enables the view's batch button
 
     qint32 PointCount = 0;
     qint32 ViewShownPoints = 0;

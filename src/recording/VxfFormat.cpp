@@ -1,6 +1,7 @@
 #include "recording/VxfFormat.h"
 
 #include "app/TimeBase.h"
+#include "recording/BatchInfoHook.h"
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"
 #include "recording/RecordingLimits.h"
@@ -107,10 +108,14 @@ void VxfFormat::readAlarmHistory(const FileLoad& load) {
     const quint16 alarmSize = b.ReadU16Le(counters);
     ViewAlarmEvents& events = load.view.AlarmEvents;
     if (events.files.size() <= load.fileIndex) events.files.resize(load.fileIndex + 1);
-    if (alarmSize != kAlarmRecordSize) return;
-    const quint16 count = b.ReadU16Le(counters + 2);
     const qint64 base =
         saturatingAdd(messageBase(), saturatingMul(head_.MessageSize, head_.MessageCount));
+    // The batch block lies behind the alarm records; with another record size it is looked for
+    // at the wrong place, which finds nothing.
+    const quint16 count = alarmSize == kAlarmRecordSize ? b.ReadU16Le(counters + 2) : 0;
+    load.view.BatchInfoFound = ReadBatchInfo(
+        load.view, b, saturatingAdd(base, qint64(alarmSize) * count), head_.layout->batchBase);
+    if (alarmSize != kAlarmRecordSize) return;
     QVector<AlarmSequence>& sequences = events.files[load.fileIndex];
     bool closed = true;
     for (int i = 0; i < count; ++i) {

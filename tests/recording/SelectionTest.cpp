@@ -3,6 +3,7 @@
 #include "recording/DroppedFiles.h"
 #include "recording/FamilyCodes.h"
 #include "recording/SelectionChooser.h"
+#include "support/NpWriter.h"
 #include "support/RecordingFixture.h"
 #include "support/RecordingMessageSink.h"
 #include "support/VxfWriter.h"
@@ -13,7 +14,9 @@ namespace {
 
 using namespace fixtures;
 
-qint16 flat(int, int) { return 5; }
+qint16 flat(int, int) {
+    return 5;
+}
 
 class Selection : public ::testing::Test {
 protected:
@@ -48,7 +51,8 @@ TEST_F(Selection, CommandLineKindsRefuseMixedFamilies) {
     const QString a = vxf("a.vxf", 100);
     const QString wrongMagic = junk("w.vxf");
     const QString qdf = dir.write("q.qdf", QByteArray("QD30") + QByteArray(300, '\0'));
-    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({wrongMagic, a, qdf}), false, sel);
+    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({wrongMagic, a, qdf}), false,
+                                    sel);
     EXPECT_EQ(sel.SelFileName, QVector<QString>({a}));
     EXPECT_EQ(sel.SelFileType, Family::VXF);
 }
@@ -100,7 +104,8 @@ TEST_F(Selection, DropOfNothingUsableShows553AndAMessageFileAloneOpensNothing) {
 TEST_F(Selection, DropWithoutReadableHeadersRestoresTheSelection) {
     ViewTables view;
     sel.append(QStringLiteral("/kept.vxf"), 1, 0);
-    EXPECT_FALSE(DroppedFiles::OpenDroppedFiles({dir.write("short.vxf", QByteArray("VX2\0abc", 7))}, view, false, sel));
+    EXPECT_FALSE(DroppedFiles::OpenDroppedFiles({dir.write("short.vxf", QByteArray("VX2\0abc", 7))},
+                                                view, false, sel));
     EXPECT_EQ(sel.SelFileName, QVector<QString>({QStringLiteral("/kept.vxf")}));
     EXPECT_EQ(sink.last().text, MsgText(561));
 }
@@ -147,6 +152,25 @@ TEST_F(Selection, ChooserWarnsAboveTheSizeLimitAndNoEmptiesTheSelection) {
     sink.setAnswer(kYes);
     EXPECT_TRUE(chooser.registerSelection(QStringLiteral("/d"), sel));
     EXPECT_EQ(sel.SelFileCount, 1);
+}
+
+TEST_F(Selection, GsChooserRefusesP4fFilesOutOfPhase) {
+    const auto p4f = [&](const QString& name, quint32 startUnix) {
+        NpDescription d;
+        d.magic = QByteArray("PA4\0", 4);
+        d.gsStride = true;
+        d.intervalTenths = 100; // 10 s
+        d.startUnix = startUnix;
+        d.channels = {{"T", "C", 1, 0}};
+        d.rows = {{{1, 0, 0}}, {{2, 0, 0}}};
+        return dir.write(name, buildNp(d));
+    };
+    const quint32 t0 = 1700000000; // a multiple of ten seconds
+    SelectionChooser chooser(true);
+    EXPECT_EQ(chooser.take(p4f("a.p4f", t0), Family::P4F), 0);
+    EXPECT_EQ(chooser.take(p4f("b.p4f", t0 + 3600), Family::P4F), 0);
+    EXPECT_EQ(chooser.take(p4f("c.p4f", t0 + 7205), Family::P4F), 586);
+    EXPECT_EQ(chooser.chosen().size(), 2);
 }
 
 } // namespace

@@ -13,7 +13,9 @@ using namespace fixtures;
 
 const quint32 kStart = quint32(TimeBase::toSeconds({2024, 5, 6, 10, 0, 0}));
 
-qint16 rowTimesTen(int row, int channel) { return qint16(row * 10 + channel); }
+qint16 rowTimesTen(int row, int channel) {
+    return qint16(row * 10 + channel);
+}
 
 class VxfReader : public ::testing::Test {
 protected:
@@ -41,8 +43,8 @@ TEST_F(VxfReader, NarrowFileFillsChannelsCellsAndView) {
     EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("No5")); // slot byte + 1
     EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("kPa"));
     EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfVXSeries().GetColor(2));
-    EXPECT_EQ(cellText(2, 1), QLatin1String("1.1"));  // (10 + 1) / 10
-    EXPECT_EQ(cellText(4, 3), QLatin1String("32"));   // 0 decimals
+    EXPECT_EQ(cellText(2, 1), QLatin1String("1.1")); // (10 + 1) / 10
+    EXPECT_EQ(cellText(4, 3), QLatin1String("32"));  // 0 decimals
     EXPECT_EQ(cellText(6, 2), QLatin1String("BURN"));
     EXPECT_EQ(cellText(5, 2), QLatin1String("1001")); // bytes 0x13, 0x31
     EXPECT_EQ(cellText(1, 1), QLatin1String("0000"));
@@ -113,7 +115,8 @@ TEST_F(VxfReader, MessagesAreReadAndThoseBeyondTheEndAreEmpty) {
 
 TEST_F(VxfReader, AlarmHistoryFormsSequencesAndRaisesShownPoints) {
     VxfDescription d = simpleVxf(1, 10, kStart, 10, rowTimesTen);
-    d.alarms = {{kStart + 5, 3, 1, 0x11, 0x21, 7}, {42, 43, 1, 0x02, 0, 0}, {kStart + 9, 0, 2, 0x21, 0, 0}};
+    d.alarms = {
+        {kStart + 5, 3, 1, 0x11, 0x21, 7}, {42, 43, 1, 0x02, 0, 0}, {kStart + 9, 0, 2, 0x21, 0, 0}};
     ASSERT_TRUE(loadFiles({dir.write("al.vxf", buildVxf(d))}).ok());
     EXPECT_EQ(view.AlarmEvents.sequenceCount, 2);
     const auto& seqs = view.AlarmEvents.files[0];
@@ -234,7 +237,8 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
         bool poll() override { return true; }
     } progress;
     CommandFiles::ParseCommandFiles(
-        CommandFiles::quotedCommandLine({dir.write("c.vxf", buildVxf(simpleVxf(1, 5000, kStart, 10, rowTimesTen)))}),
+        CommandFiles::quotedCommandLine(
+            {dir.write("c.vxf", buildVxf(simpleVxf(1, 5000, kStart, 10, rowTimesTen)))}),
         false);
     ViewTables& v = views(1);
     copySelectionToView(v);
@@ -245,6 +249,54 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
     EXPECT_EQ(LoadRecording(v, options).status, LoadOutcome::Status::Cancelled);
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(v.PointCount, 0);
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(VxfReader, PropertiesOfTheFirstFile) {
+    VxfDescription d = simpleVxf(1, 30, kStart, 50, rowTimesTen);
+    d.modelText = "VX-3000";
+    d.versionText = "R2.04";
+    ASSERT_TRUE(loadFiles({dir.write("p.vxf", buildVxf(d))}).ok());
+    const clsDataFileProperty& p = view.DataProperty;
+    EXPECT_TRUE(p.filled);
+    EXPECT_EQ(p.start, kStart);
+    EXPECT_EQ(p.end, kStart + 150); // 5 s x 30 rows
+    EXPECT_EQ(p.rowCount, 30);
+    EXPECT_EQ(p.typeText, QLatin1String("TARNO Graphic recorder"));
+    EXPECT_EQ(p.modelText, QLatin1String("VX-3000"));
+    EXPECT_EQ(p.versionText, QLatin1String("R2.04"));
+    EXPECT_FALSE(view.BatchInfoFound);
+}
+
+TEST_F(VxfReader, LongRecordingsCapTheSixteenBitRowCount) {
+    ASSERT_TRUE(
+        loadFiles({dir.write("l.vxf", buildVxf(simpleVxf(1, 40000, kStart, 10, rowTimesTen)))})
+            .ok());
+    EXPECT_EQ(view.PointCount, 40000);
+    EXPECT_EQ(view.ViewShownPoints, 40000);
+    EXPECT_EQ(view.ViewRowCount, 32767);
+}
+
+TEST_F(VxfReader, AnUnknownMagicReadsMessagesOf44Bytes) {
+    // A file of another magic arrives only through paths that skip the magic test.
+    VxfDescription d = simpleVxf(1, 2, kStart, 10, rowTimesTen);
+    d.magic = QByteArray("XQ9\0", 4);
+    d.messageSize = 60; // the head says 60, the reader takes 44
+    d.messages = {{kStart, 0, "abc", 5}};
+    QByteArray bytes = buildVxf(d);
+    SelectionLists& sel = selection();
+    sel.clear();
+    sel.append(dir.write("u.vxf", bytes), kStart, 0);
+    sel.SelInterval = 1000;
+    ViewTables& v = views(1);
+    copySelectionToView(v);
+    ASSERT_TRUE(LoadRecording(v, LoadOptions()).ok());
+    ASSERT_EQ(v.ViewMessages.size(), 1);
+    EXPECT_EQ(v.ViewMessages[0].text, QLatin1String("abc"));
+    EXPECT_EQ(v.ViewMessages[0].type, 0); // the type field of a 44-byte record holds text bytes
 }
 
 } // namespace
