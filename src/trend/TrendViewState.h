@@ -93,7 +93,11 @@ struct TrendViewState {
     // Multi-scale table of rows 1..128 (index 0..127): scale low and high, 1E+308 when empty,
     // and the flag that the table replaces the channels' scales at the next load.
     qint32 MultiScaleFlag = 0;
-    std::array<std::array<double, 2>, 128> MultiScale{};
+    std::array<std::array<double, 2>, 128> MultiScale = [] {
+        std::array<std::array<double, 2>, 128> a{};
+        for (auto& row : a) row = {1E+308, 1E+308};
+        return a;
+    }();
     // hsbTrendGraph, vsbTrendGraph, hsbBarGraph, vsbBarGraph: Min, Max, Value, SmallChange,
     // LargeChange.
     std::array<std::array<qint16, 5>, 4> ScrollBars{};

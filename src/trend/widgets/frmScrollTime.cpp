@@ -3,28 +3,181 @@
 #include "app/LanguageTable.h"
 #include "app/ShowMsg.h"
 #include "app/widgets/frmProgress.h"
+#include "platform/ChartGeometry.h"
 #include "platform/widgets/ChartWidget.h"
 #include "recording/RecordingLoader.h"
 #include "trend/TrendView.h"
+#include "trend/widgets/MultiScaleStrip.h"
+#include "trend/widgets/TrendIcons.h"
+#include "trend/widgets/TrendMouseBand.h"
+#include "trend/widgets/TrendTexts.h"
+#include "trend/widgets/frmMultiScaleSet.h"
+#include "trend/widgets/frmTimeAxisSetting.h"
+#include "trend/widgets/frmXlblSet.h"
+#include "trend/widgets/frmYAxesStyle.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolBar>
 #include <QVBoxLayout>
+
+namespace {
+
+// Fonts of the chart: the language's font at a size that reads well on screen.
+constexpr int kChartPointSize = 9;
+
+} // namespace
 
 frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
     : QWidget(parent), viewNumber_(viewNumber), trend_(std::make_unique<TrendView>(viewNumber)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
-    chart_ = new ChartWidget(&trend_->chart(), this);
+    setFont(QFont(LanguageFont(), kChartPointSize));
+    ChartModel& model = trend_->chart();
+    const QFont chartFont(LanguageFont(), kChartPointSize);
+    for (ChartAxis* axis : {&model.axisX(), &model.axisY(), &model.axisY2()}) {
+        axis->setFont(chartFont);
+        axis->setTitleFont(chartFont);
+    }
+
+    plotArea_ = new QWidget(this);
+    plotArea_->installEventFilter(this);
+    chart_ = new ChartWidget(&model, plotArea_);
+    chart_->installEventFilter(this);
+    hsbTrendGraph_ = new QScrollBar(Qt::Horizontal, plotArea_);
+    hsbTrendGraph_->setObjectName(QStringLiteral("hsbTrendGraph"));
+    hsbTrendGraph_->setEnabled(false);
+    connect(hsbTrendGraph_, &QScrollBar::valueChanged, this, &frmScrollTime::scrolled);
+
+    band_ = new TrendMouseBand(*trend_, *chart_, this);
+    connect(band_, &TrendMouseBand::zoomed, this, &frmScrollTime::syncControls);
+    connect(band_, &TrendMouseBand::popupRequested, this,
+            [this](const QPoint& pixel) { popup_->popup(chart_->mapToGlobal(pixel)); });
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(chart_);
+    layout->setSpacing(0);
+    auto* menuBar = new QMenuBar(this);
+    layout->setMenuBar(menuBar);
+    buildToolbars();
+    buildMenus(menuBar);
+    auto* bars = new QWidget(this);
+    auto* barsLayout = new QHBoxLayout(bars);
+    barsLayout->setContentsMargins(2, 0, 2, 0);
+    barsLayout->addWidget(findChild<QToolBar*>(QStringLiteral("Toolbar1")));
+    barsLayout->addWidget(Toolbar2_);
+    barsLayout->addStretch(1);
+    layout->addWidget(bars);
+    layout->addWidget(plotArea_, 1);
+
+    setHooks();
+    syncControls();
     resize(1000, 640);
 }
 
-frmScrollTime::~frmScrollTime() = default;
+frmScrollTime::~frmScrollTime() {
+    // The logic may outlive no window: its hooks point into this one.
+    trend_->window() = TrendWindowState();
+}
+
+QAction* frmScrollTime::makeCommand(int number, const QString& text) {
+    auto* action = new QAction(Toolbar2Icon(number), text, this);
+    action->setToolTip(text);
+    connect(action, &QAction::triggered, this, [this, number] { command(number); });
+    commands_[size_t(number)] = action;
+    return action;
+}
+
+void frmScrollTime::buildToolbars() {
+    auto* toolbar1 = new QToolBar(this);
+    toolbar1->setObjectName(QStringLiteral("Toolbar1"));
+    toolbar1->setIconSize(QSize(22, 22));
+    QAction* open = toolbar1->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton),
+                                        TrendCaption(MsgId(604), "Open files"));
+    connect(open, &QAction::triggered, this, [this] { toolbar1Command(2); });
+    QAction* close = toolbar1->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton),
+                                         TrendCaption(MsgId(605), "Close data"));
+    connect(close, &QAction::triggered, this, [this] { toolbar1Command(1); });
+
+    Toolbar2_ = new QToolBar(this);
+    Toolbar2_->setObjectName(QStringLiteral("Toolbar2"));
+    Toolbar2_->setIconSize(QSize(22, 22));
+    Toolbar2_->addAction(makeCommand(1, TrendCaption(MsgId(600), "Previous zoom level")));
+    Toolbar2_->addAction(makeCommand(2, MsgText(65)));
+    Toolbar2_->addSeparator();
+    Toolbar2_->addAction(makeCommand(12, TrendCaption(MsgId(602), "Time axis settings")));
+    Toolbar2_->addAction(makeCommand(13, TrendCaption(MsgId(603), "Time axis labels")));
+    Toolbar2_->addAction(makeCommand(11, TrendCaption(MsgId(601), "Y axis settings")));
+
+    popup_ = new QMenu(this);
+    popup_->setObjectName(QStringLiteral("PopupMenu"));
+    for (int number : {1, 2, 0, 12, 13, 11}) {
+        if (number == 0)
+            popup_->addSeparator();
+        else
+            popup_->addAction(commands_[size_t(number)]);
+    }
+}
+
+void frmScrollTime::buildMenus(QMenuBar* bar) {
+    QMenu* file = bar->addMenu(MenuCaption(TrendCaption(MsgId(606), "File"), QLatin1Char('F')));
+    file->addAction(TrendCaption(MsgId(604), "Open files"), this, [this] { toolbar1Command(2); });
+    file->addAction(TrendCaption(MsgId(605), "Close data"), this, [this] { toolbar1Command(1); });
+
+    QMenu* display = bar->addMenu(MenuCaption(MsgText(19), QLatin1Char('V')));
+    for (int number : {1, 2, 0, 12, 13, 11}) {
+        if (number == 0)
+            display->addSeparator();
+        else
+            display->addAction(commands_[size_t(number)]);
+    }
+    display->addSeparator();
+    display->addAction(TrendCaption(MsgId(607), "Multi-scale settings"), this,
+                       &frmScrollTime::showMultiScaleSet);
+
+    QMenu* window = bar->addMenu(MenuCaption(MsgText(4), QLatin1Char('W')));
+    QAction* onTop = window->addAction(MsgText(20));
+    onTop->setCheckable(true);
+    connect(onTop, &QAction::toggled, this, [this](bool on) {
+        setWindowFlag(Qt::WindowStaysOnTopHint, on);
+        show();
+    });
+    window->addSeparator();
+    window->addAction(MsgText(18), this, &QWidget::close);
+}
+
+void frmScrollTime::setHooks() {
+    TrendWindowState& w = trend_->window();
+    w.formResize = [this] { Form_Resize(); };
+    w.multiScaleDrawn = [this] { drawStrips(); };
+    w.beep = [] { QApplication::beep(); };
+    // The cursor side panels, the title's rotation and the legend marks have no window parts
+    // of their own here: the chart draws the title and legend from its model.
+    w.sidePanels = [] {};
+    w.titleRolaction = [] {};
+    w.legendMarks = [] {};
+}
+
+QAction* frmScrollTime::toolbar2Action(int number) const {
+    if (number < 0 || number >= int(commands_.size())) return nullptr;
+    return commands_[size_t(number)];
+}
+
+std::vector<MultiScaleStripWidget*> frmScrollTime::strips() const {
+    std::vector<MultiScaleStripWidget*> shown;
+    for (MultiScaleStripWidget* strip : strips_)
+        if (!strip->isHidden()) shown.push_back(strip);
+    return shown;
+}
 
 bool frmScrollTime::LoadRecording() {
     ViewTables& view = views(viewNumber_);
@@ -41,8 +194,120 @@ bool frmScrollTime::LoadRecording() {
     }
     if (!outcome.ok()) return false;
     const bool shown = trend_->afterLoad(&progress);
-    setWindowTitle(view.ViewTitle);
+    if (ChartLabel* title = trend_->chart().labels().item(QStringLiteral("Title")))
+        title->Font = QFont(LanguageFont(), kChartPointSize + 1, QFont::Bold);
+    trend_->window().Caption = shown ? view.ViewTitle : QString();
+    syncControls();
+    Form_Resize();
     return shown;
+}
+
+void frmScrollTime::command(int number) {
+    if (!trend_->window().Toolbar2Enabled[size_t(qBound(0, number, 22))]) return;
+    if (number == 11 || number == 12 || number == 13)
+        commandAfterDialog(number);
+    else
+        trend_->command(number);
+    syncControls();
+}
+
+void frmScrollTime::toolbar1Command(int number) {
+    if (number == 1) {
+        close();
+    } else if (number == 2) {
+        const QStringList paths = QFileDialog::getOpenFileNames(this, MsgText(217));
+        if (!paths.isEmpty()) Q_EMIT filesDropped(viewNumber_, paths);
+    }
+}
+
+// Lays the chart and the scroll bar out: the bar runs along the plot's left and width.
+void frmScrollTime::Form_Resize() {
+    const int barHeight = hsbTrendGraph_->sizeHint().height();
+    const QSize area = plotArea_->size();
+    chart_->setGeometry(0, 0, area.width(), std::max(0, area.height() - barHeight));
+    const QRectF plot = chart_->chartGeometry().plotArea();
+    hsbTrendGraph_->setGeometry(int(plot.left()), area.height() - barHeight, int(plot.width()),
+                                barHeight);
+    trend_->scales().setPlotHeight(plot.height());
+    if (trend_->state().ScaleType == 2 && plot.height() != stripPlotHeight_) {
+        stripPlotHeight_ = plot.height();
+        trend_->scales().MultiScaleDispResize();
+    } else {
+        drawStrips();
+    }
+}
+
+void frmScrollTime::drawStrips() {
+    const auto& layout = trend_->scales().strips();
+    const bool shown = trend_->state().ScaleType == 2;
+    while (strips_.size() < layout.size()) strips_.push_back(new MultiScaleStripWidget(chart_));
+    const QRectF plot = chart_->chartGeometry().plotArea();
+    const int size = trend_->chart().axisY().font().pointSize();
+    for (size_t i = 0; i < strips_.size(); ++i) {
+        MultiScaleStripWidget* strip = strips_[i];
+        if (!shown || i >= layout.size()) {
+            strip->hide();
+            continue;
+        }
+        strip->setGeometry(int(i) * TrendScaleAxes::kStripWidth, 0, TrendScaleAxes::kStripWidth,
+                           chart_->height());
+        strip->setStrip(layout[i], plot.top(), plot.height(), size);
+        strip->show();
+    }
+}
+
+// Copies what the logic decided to the controls: buttons, scroll bar, caption.
+void frmScrollTime::syncControls() {
+    const TrendWindowState& w = trend_->window();
+    for (size_t n = 0; n < commands_.size(); ++n)
+        if (commands_[n]) commands_[n]->setEnabled(w.Toolbar2Enabled[n]);
+    const ScrollBarState& bar = w.hsbTrendGraph;
+    syncing_ = true;
+    hsbTrendGraph_->setRange(bar.Min, std::max(bar.Min, bar.Max));
+    hsbTrendGraph_->setPageStep(std::max<int>(1, bar.LargeChange));
+    hsbTrendGraph_->setSingleStep(std::max<int>(1, bar.SmallChange));
+    hsbTrendGraph_->setValue(bar.Value);
+    hsbTrendGraph_->setEnabled(bar.Enabled);
+    syncing_ = false;
+    setWindowTitle(w.Caption);
+}
+
+void frmScrollTime::scrolled(int value) {
+    if (syncing_) return;
+    trend_->zoom().scroll(value);
+    syncControls();
+}
+
+// Commands 11, 12 and 13 open their dialog with the view as owner.
+void frmScrollTime::commandAfterDialog(int number) {
+    if (number == 12) {
+        frmTimeAxisSetting dialog(*trend_, this);
+        if (dialog.exec() == QDialog::Accepted) TimeAxisSetting::apply(*trend_, dialog.setting());
+    } else if (number == 13) {
+        frmXlblSet dialog(*trend_, this);
+        dialog.exec();
+    } else if (number == 11) {
+        frmYAxesStyle dialog(*trend_, this);
+        dialog.exec();
+    }
+}
+
+void frmScrollTime::showMultiScaleSet() {
+    frmMultiScaleSet dialog(*trend_, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    syncControls();
+    stripPlotHeight_ = -1;
+    Form_Resize();
+}
+
+bool frmScrollTime::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && (watched == plotArea_ || watched == chart_)) {
+        if (watched == plotArea_)
+            Form_Resize();
+        else
+            drawStrips();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void frmScrollTime::closeEvent(QCloseEvent* event) {

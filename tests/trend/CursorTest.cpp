@@ -1,0 +1,141 @@
+#include "CursorTestSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace cursortest;
+using namespace trendtest;
+
+namespace {
+
+constexpr int kA = 2; // series of cursor A in a one-channel view
+constexpr int kB = 3;
+
+} // namespace
+
+// Buttons 6 and 7: one turns the other off; both off ends the tracking marker and gives the
+// X band zoom back.
+TEST(TrendCursors, ButtonsExcludeEachOtherAndStyleTheMarker) {
+    CursorView v(3, {ramp(50)});
+    TrendCursors& c = v.cursors;
+    const TrendViewState& st = v.view.state();
+
+    ASSERT_TRUE(c.command(6));
+    EXPECT_TRUE(st.CursorAOn);
+    EXPECT_EQ(c.activeCursor(), 1);
+    EXPECT_TRUE(c.marker().tracking);
+    EXPECT_EQ(c.marker().color, QColor(0, 0, 255));
+    EXPECT_EQ(c.marker().width, 2);
+    EXPECT_FALSE(v.view.zoom().canStartBand(false));
+
+    ASSERT_TRUE(c.command(7));
+    EXPECT_FALSE(st.CursorAOn);
+    EXPECT_TRUE(st.CursorBOn);
+    EXPECT_EQ(c.marker().color, QColor(255, 0, 255));
+
+    ASSERT_TRUE(c.command(7));
+    EXPECT_EQ(c.activeCursor(), 0);
+    EXPECT_FALSE(c.marker().tracking);
+    EXPECT_EQ(c.marker().color, QColor(255, 0, 0));
+    EXPECT_TRUE(v.view.zoom().canStartBand(false));
+    EXPECT_FALSE(c.command(5));
+}
+
+// A click places the active cursor on the nearest point along X; left of the first and right
+// of the last sample it lands on that end. The line spans the Y range in the cursor's series.
+TEST(TrendCursors, ClickPlacesOnNearestPointAndEnds) {
+    CursorView v(3, {ramp(50, 10)});
+    ChartModel& chart = v.view.chart();
+    chart.axisX().setMin(-10); // room left of the first and right of the last sample
+    chart.axisX().setMax(59);
+    v.cursors.command(6);
+    const struct {
+        double fx;
+        qint32 point;
+    } clicks[] = {{0.99, 50}, {0.01, 1}, {(20.25 + 10) / 69, 21}, {(20.75 + 10) / 69, 22}};
+    for (const auto& k : clicks) {
+        const ChartGeometry g = v.geometry();
+        v.cursors.mouseMove(g, v.inPlot(k.fx, 0.5));
+        EXPECT_EQ(v.cursors.marker().x, k.point - 1) << k.fx;
+        ASSERT_TRUE(v.cursors.click(g)) << k.fx;
+        EXPECT_EQ(v.view.state().CursorPoint[0], k.point) << k.fx;
+        EXPECT_EQ(chart.X(kA, 1), k.point - 1);
+        EXPECT_EQ(chart.X(kA, 2), k.point - 1);
+    }
+    EXPECT_EQ(chart.Y(kA, 1), chart.axisY().min());
+    EXPECT_EQ(chart.Y(kA, 2), chart.axisY().max());
+    EXPECT_EQ(chart.displayState(kA), Chart::kDisplayShown);
+    EXPECT_EQ(chart.displayState(kB), Chart::kDisplayHidden);
+    EXPECT_EQ(chart.seriesStyle(kA).color, QColor(0, 0, 255));
+}
+
+// Clicks that place nothing: outside the chart area, with both buttons off, and with a hole at
+// point 1 of series 1, which blocks placing but still updates the bar chart.
+TEST(TrendCursors, ClicksThatPlaceNothing) {
+    CursorView v(3, {ramp(50)});
+    const ChartGeometry g = v.geometry();
+    v.cursors.mouseMove(g, v.inPlot(0.5, 0.5));
+    EXPECT_FALSE(v.cursors.click(g)); // both buttons off
+    v.cursors.command(7);
+    v.cursors.mouseMove(g, QPointF(1, 1)); // the chart's corner, outside the chart area
+    EXPECT_FALSE(v.cursors.click(g));
+    EXPECT_EQ(v.view.state().CursorPoint[1], 0);
+
+    CursorView holed(4, {{kBurn, 5, 6, 7}});
+    int barUpdates = 0;
+    holed.cursors.barUpdate = [&](int cursor) { barUpdates += cursor; };
+    holed.cursors.command(7);
+    const ChartGeometry hg = holed.geometry();
+    holed.cursors.mouseMove(hg, holed.inPlot(0.5, 0.5));
+    EXPECT_FALSE(holed.cursors.click(hg));
+    EXPECT_EQ(holed.view.state().CursorPoint[1], 0);
+    EXPECT_EQ(holed.view.chart().displayState(kB), Chart::kDisplayHidden);
+    EXPECT_EQ(barUpdates, 2);
+}
+
+// Scrolling and zooming leave a cursor where it is; only the ends of its line follow the Y
+// range. A load takes both cursors away.
+TEST(TrendCursors, CursorsNeverMoveByThemselves) {
+    CursorView v(3, {ramp(200)});
+    ChartModel& chart = v.view.chart();
+    ASSERT_TRUE(v.cursors.place(1, 120));
+    ASSERT_TRUE(v.cursors.place(2, 30));
+    v.view.zoom().SetDataRange(1, 50);
+    v.view.zoom().zoomX(10, 40);
+    EXPECT_EQ(v.view.state().CursorPoint[0], 120);
+    EXPECT_EQ(v.view.state().CursorPoint[1], 30);
+    EXPECT_EQ(chart.X(kA, 1), 119);
+
+    chart.axisY().setMin(-500);
+    chart.axisY().setMax(700);
+    v.cursors.followYRange();
+    EXPECT_EQ(chart.Y(kA, 1), -500);
+    EXPECT_EQ(chart.Y(kB, 2), 700);
+    EXPECT_EQ(chart.X(kB, 1), 29);
+
+    v.cursors.command(6);
+    EXPECT_TRUE(v.view.afterLoad());
+    v.cursors.afterLoad();
+    EXPECT_EQ(v.view.state().CursorPoint[0], 0);
+    EXPECT_EQ(v.view.state().CursorPoint[1], 0);
+    EXPECT_EQ(v.cursors.activeCursor(), 0);
+}
+
+// After a placement the marker view (when open) gets MarkABset of that cursor, and with the
+// statistics view on and both cursors placed the statistics follow.
+TEST(TrendCursors, PlacementFeedsMarkerViewAndStatistics) {
+    CursorView v(3, {ramp(20, 1)});
+    std::vector<std::pair<int, qint32>> marked;
+    int statistics = 0;
+    v.cursors.markerView = [&](int cursor, qint32 point) { marked.emplace_back(cursor, point); };
+    v.cursors.markerStatistics = [&] { ++statistics; };
+    v.cursors.statisticsViewOpen = true;
+    v.cursors.place(1, 5);
+    EXPECT_EQ(statistics, 0);
+    v.cursors.place(2, 8);
+    EXPECT_EQ(statistics, 1);
+    EXPECT_EQ(marked, (std::vector<std::pair<int, qint32>>{{1, 5}, {2, 8}}));
+    // Points 5..8 hold 5, 6, 7, 8: maximum, minimum, mean in the side grid.
+    EXPECT_EQ(v.side().grid().text(3, 4), QStringLiteral("8"));
+    EXPECT_EQ(v.side().grid().text(3, 5), QStringLiteral("5"));
+    EXPECT_EQ(v.side().grid().text(3, 6), shown(QStringLiteral("6.5")));
+}
