@@ -8,18 +8,21 @@
 
 #include <QSizeF>
 
+#include <gtest/gtest.h>
+
 namespace cursortest {
 
 // A loaded view of plain channels with its cursors, as the window holds them after a load.
 struct CursorView {
     CursorView(int number, const std::vector<std::vector<qint16>>& channels, int decimals = 0,
-               const QString& low = QStringLiteral("0"), const QString& high = QStringLiteral("100"))
+               const QString& low = QStringLiteral("0"),
+               const QString& high = QStringLiteral("100"))
         : view(prepared(number, channels, decimals, low, high)), cursors(view) {
         EXPECT_TRUE(view.afterLoad());
         cursors.afterLoad();
     }
-    static int prepared(int number, const std::vector<std::vector<qint16>>& channels,
-                        int decimals, const QString& low, const QString& high) {
+    static int prepared(int number, const std::vector<std::vector<qint16>>& channels, int decimals,
+                        const QString& low, const QString& high) {
         trendtest::makeView(number, channels, decimals, low, high);
         return number;
     }
@@ -37,7 +40,7 @@ struct CursorView {
 
 // A ramp of n raw values starting at `first`.
 inline std::vector<qint16> ramp(int n, int first = 0) {
-    std::vector<qint16> v(size_t(n));
+    std::vector<qint16> v(static_cast<size_t>(n));
     for (int i = 0; i < n; ++i) v[size_t(i)] = qint16(first + i);
     return v;
 }

@@ -26,12 +26,9 @@ TEST(CursorTimeSpan, MarkerAndSideGridThresholds) {
         const char* marker;
         const char* side;
     } rows[] = {
-        {10, 5000, "0:0:50", "0:0:0.05"},
-        {3, 500, "0:0:1.5", "0:0:1.5"},
-        {3, 1000, "0:0:3", "0:0:3"},
-        {30, 2000, "0:1:0", "0:0:0.06"},
-        {10, 10000, "0:1:40", "0:0:0.1"},
-        {10, 20000, "0:3:20", "0:3:20"},
+        {10, 5000, "0:0:50", "0:0:0.05"}, {3, 500, "0:0:1.5", "0:0:1.5"},
+        {3, 1000, "0:0:3", "0:0:3"},      {30, 2000, "0:1:0", "0:0:0.06"},
+        {10, 10000, "0:1:40", "0:0:0.1"}, {10, 20000, "0:3:20", "0:3:20"},
         {7, 1500, "0:0:14", "0:0:0.014"}, // 1.5 s rounds to 2 (halves to even)
         {9, 2500, "0:0:18", "0:0:0.018"}, // 2.5 s rounds to 2
         {0, 5000, "0:0:0", "0:0:0"},
@@ -155,21 +152,23 @@ TEST(CursorSideGrid, AlarmCellsAndToolTips) {
     table.clear();
 }
 
-// Percent data read back in engineering units with the channel's decimals; exponent channels
-// show their own format in the value and the difference.
+// Percent data read back in engineering units, rounded to the channel's decimals (1 of a
+// 0..3 scale is 33.3333333333333 % and reads 1, not 0.999999999999999); exponent channels show
+// their own format in the value and the difference.
 TEST(CursorSideGrid, PercentAndExponentChannels) {
-    CursorView v(3, {{250, 500, 0, 0}, {1, 2, 3, 4}}, 0, QStringLiteral("0"),
-                 QStringLiteral("1000"));
+    CursorView v(3, {{1, 2, 0, 0}, {1, 2, 3, 4}}, 0, QStringLiteral("0"), QStringLiteral("1000"));
     TrendViewState& st = v.view.state();
     st.ScalePercentMode = true;
+    st.Lines[1].scaleHigh = QStringLiteral("3");
     st.Lines[1].decimals = 1;
     views(3).Channels.ChExpDigits[2] = 2;
     v.view.plot().ScaleCalculateSet();
     v.cursors.place(1, 2);
     v.cursors.place(2, 1);
     const ReadoutGrid& g = v.side().grid();
-    EXPECT_EQ(g.text(3, 1), shown(QStringLiteral("500.0")));
-    EXPECT_EQ(g.text(3, 2), shown(QStringLiteral("250.0")));
+    EXPECT_EQ(g.text(3, 1), QStringLiteral("2"));
+    EXPECT_EQ(g.text(3, 2), QStringLiteral("1"));
+    EXPECT_EQ(g.text(3, 3), QStringLiteral("1"));
     EXPECT_EQ(g.text(4, 1), shown(QStringLiteral("2.0E+00")));
     EXPECT_EQ(g.text(4, 3), shown(QStringLiteral("1.0E+00")));
 }
@@ -181,9 +180,9 @@ TEST(ChannelTexts, ValueAndKindTexts) {
         int code;
         const char* text;
     } values[] = {
-        {0.5, 0, "0.5"},          {-1, 0, "-1"},       {12.25, 0, "12.25"},
-        {1234.5, 2, "1.2E+03"},   {3, 0, "3"},         {-7.5, 9, "-7.5"},
-        {0.000012, 1, "1E-05"},   {150, 4, "1.500E+02"}, {-250, 0, "-250"},
+        {0.5, 0, "0.5"},        {-1, 0, "-1"},         {12.25, 0, "12.25"},
+        {1234.5, 2, "1.2E+03"}, {3, 0, "3"},           {-7.5, 9, "-7.5"},
+        {0.000012, 1, "1E-05"}, {150, 4, "1.500E+02"}, {-250, 0, "-250"},
     };
     for (const auto& v : values)
         EXPECT_EQ(ChannelValueText(v.value, v.code), shown(QLatin1String(v.text))) << v.value;

@@ -1,0 +1,197 @@
+#include "CursorTestSupport.h"
+#include "app/LanguageTable.h"
+#include "recording/LoadHelpers.h"
+#include "support/RecordingFixture.h"
+#include "support/VxfWriter.h"
+#include "trend/AlarmMarks.h"
+#include "trend/AlarmSymbolSettings.h"
+#include "trend/AlarmTable.h"
+
+#include <gtest/gtest.h>
+
+using namespace cursortest;
+using namespace trendtest;
+
+namespace {
+
+// The four levels of a table cell as digits, level 1 first ("0100").
+QString levels(const AlarmTable& table, qint32 row, int channel) {
+    QString t;
+    for (int level = 1; level <= AlarmTable::kLevels; ++level)
+        t += QString::number(table(level, row, channel));
+    return t;
+}
+
+// A view of one channel whose alarm column holds the given texts at rows 1..n.
+struct AlarmView : CursorView {
+    AlarmView(std::vector<qint16> values, const QStringList& alarms, int number = 6)
+        : CursorView(number, {std::move(values)}) {
+        for (int r = 1; r <= alarms.size(); ++r) views(number).Storage.SetText(1, r, alarms[r - 1]);
+    }
+    AlarmMarks marks() { return AlarmMarks(view); }
+    const AlarmTable& table() const { return alarmTable(6); }
+    const std::map<qsizetype, PointStyle>& styles() const {
+        return view.chart().series(1).pointStyles();
+    }
+};
+
+} // namespace
+
+// Each character of an alarm text is the kind of one level; after a load a character that is
+// not a digit empties the whole table, while the saved-work path reads it as 0.
+TEST(AlarmTable, FillFromAlarmTexts) {
+    AlarmView v({1, 2, 3, 4, 5}, {QStringLiteral("0100"), QStringLiteral("9"), QString(),
+                                  QStringLiteral("1234"), QStringLiteral("0 5")});
+    AlarmTable& table = alarmTable(6);
+    EXPECT_FALSE(table.fill(6, AlarmTable::Path::AfterLoad));
+    EXPECT_EQ(table.points(), 5);
+    for (qint32 r = 1; r <= 5; ++r) EXPECT_EQ(levels(table, r, 1), QStringLiteral("0000")) << r;
+
+    EXPECT_TRUE(table.fill(6, AlarmTable::Path::SavedWork));
+    const char* expected[] = {"0100", "9000", "0000", "1234", "0050"};
+    for (qint32 r = 1; r <= 5; ++r)
+        EXPECT_EQ(levels(table, r, 1), QLatin1String(expected[r - 1])) << r;
+    EXPECT_TRUE(table.any(1, 1));
+    EXPECT_FALSE(table.any(3, 1));
+    EXPECT_EQ(table(2, 9, 1), 0); // outside the table
+    EXPECT_EQ(table(5, 1, 1), 0);
+
+    views(6).Storage.SetText(1, 5, QStringLiteral("0010"));
+    EXPECT_TRUE(table.fill(6, AlarmTable::Path::AfterLoad));
+    EXPECT_EQ(levels(table, 1, 1), QStringLiteral("0100"));
+    EXPECT_EQ(levels(table, 5, 1), QStringLiteral("0010"));
+}
+
+// A VXF file's alarm bytes reach the table through the store's packed cells exactly as its
+// texts read.
+TEST(AlarmTable, VxfAlarmBytes) {
+    fixtures::VxfDescription d =
+        fixtures::simpleVxf(2, 400, 0, 10, [](int row, int) { return qint16(row); });
+    d.rows[4][0].alarm1 = 0x30; // second character of the first byte
+    d.rows[7][1].alarm1 = 0x03;
+    d.rows[7][1].alarm2 = 0x5F;
+    FixtureDir dir;
+    ASSERT_TRUE(loadFiles({dir.write(QStringLiteral("a.vxf"), fixtures::buildVxf(d))}).ok());
+    TrendView view(1);
+    ASSERT_TRUE(view.afterLoad());
+    ASSERT_TRUE(AlarmMarks(view).afterLoad());
+    const AlarmTable& table = alarmTable(1);
+    ASSERT_EQ(table.points(), 400);
+    EXPECT_EQ(levels(table, 5, 1), QStringLiteral("0100"));
+    int set = 0;
+    for (int c = 1; c <= 2; ++c) {
+        for (qint32 r = 1; r <= 400; ++r) {
+            QString text;
+            views(1).Storage.GetText(2 * c - 1, r, text);
+            EXPECT_EQ(levels(table, r, c).left(text.size()), text) << r << " " << c;
+            set += table.any(r, c);
+        }
+    }
+    EXPECT_EQ(set, 2);
+}
+
+// A point in alarm gets the symbol, size and colour of its first set level with a visible
+// symbol: level 1's default symbol 1 lets level 2 show through. Holes get no mark.
+TEST(AlarmMarks, FirstVisibleLevelWins) {
+    AlarmView v({1, 2, kBurn, 4, 5},
+                {QStringLiteral("1100"), QStringLiteral("0010"), QStringLiteral("1000"),
+                 QStringLiteral("0000"), QStringLiteral("1000")});
+    AlarmMarks marks = v.marks();
+    ASSERT_TRUE(marks.afterLoad());
+    EXPECT_EQ(marks.draw(), 0); // chkShow is off
+    AlarmMarks::ShowAlarmMarks(6) = true;
+    TrendViewState& st = v.view.state();
+    st.AlarmSize[1][0] = 7;
+    st.AlarmColor[2][0] = 0x00FF00; // rgb(0,255,0)
+    EXPECT_EQ(marks.draw(), 3);
+    ASSERT_EQ(v.styles().size(), 3u);
+    const PointStyle& p1 = v.styles().at(0);
+    EXPECT_EQ(p1.symbol, Chart::SymbolShape(2));
+    EXPECT_EQ(p1.symbolSize, 7);
+    EXPECT_EQ(p1.color, QColor(255, 0, 0));
+    EXPECT_EQ(v.styles().at(1).symbol, Chart::SymbolShape(3));
+    EXPECT_EQ(v.styles().at(1).color, QColor(0, 255, 0));
+    EXPECT_EQ(v.styles().at(4).symbol, Chart::SymbolShape::None);
+    EXPECT_EQ(v.styles().count(2), 0u); // the hole
+
+    st.AlarmSymbol[0][0] = 6;
+    marks.clear();
+    EXPECT_TRUE(v.styles().empty());
+    marks.draw();
+    EXPECT_EQ(v.styles().at(0).symbol, Chart::SymbolShape(6));
+    EXPECT_EQ(v.styles().at(0).symbolSize, 4);
+}
+
+// Nothing is drawn when no point of the shown range is in alarm, or when the channel is
+// switched off in the view.
+TEST(AlarmMarks, ShownRangeAndSwitchedOffChannels) {
+    AlarmView v(ramp(100), {QStringLiteral("0100")});
+    AlarmMarks marks = v.marks();
+    marks.afterLoad();
+    AlarmMarks::ShowAlarmMarks(6) = true;
+    v.view.zoom().SetDataRange(50, 100);
+    EXPECT_EQ(marks.shownAlarmCount(), 0);
+    EXPECT_EQ(marks.draw(), 0);
+    v.view.zoom().SetDataRange(1, 100);
+    EXPECT_EQ(marks.shownAlarmCount(), 1);
+    SeriesStyle off = v.view.chart().seriesStyle(1);
+    off.pattern = Chart::LinePattern::None;
+    off.symbol = Chart::SymbolShape::None;
+    v.view.chart().setSeriesStyle(1, off);
+    EXPECT_EQ(marks.draw(), 0);
+    EXPECT_TRUE(v.styles().empty());
+}
+
+// A fresh load turns chkShow off and takes the marks away, even when the earlier file had them
+// on; a saved-work load restores them as saved.
+TEST(AlarmMarks, FreshLoadResetsShow) {
+    AlarmView v(ramp(5), {QStringLiteral("0100")});
+    AlarmMarks marks = v.marks();
+    ASSERT_TRUE(marks.afterSavedWorkLoad(true));
+    EXPECT_TRUE(AlarmMarks::ShowAlarmMarks(6));
+    EXPECT_EQ(v.styles().size(), 1u);
+    ASSERT_TRUE(marks.afterLoad());
+    EXPECT_FALSE(AlarmMarks::ShowAlarmMarks(6));
+    EXPECT_TRUE(v.styles().empty());
+}
+
+// The dialog: a preview shows the working style, Cancel goes back to the record of the
+// opening, OK keeps the working style and the flag; without channels only the flag is kept.
+TEST(AlarmSymbolSettings, PreviewCancelAndOK) {
+    AlarmView v(ramp(5), {QStringLiteral("0100")});
+    v.marks().afterLoad();
+    TrendViewState& st = v.view.state();
+    {
+        AlarmSymbolSettings dialog(v.view);
+        EXPECT_EQ(dialog.channelCount(), 1);
+        EXPECT_EQ(dialog.rowHeader(1), QStringLiteral("CH1"));
+        EXPECT_EQ(dialog.columnHeader(4), MsgText(201) + QStringLiteral("2\n") + MsgText(229));
+        EXPECT_EQ(dialog.columnHeader(5), MsgText(28) + QStringLiteral("2\n") + MsgText(229));
+        EXPECT_EQ(AlarmSymbolSettings::levelOfColumn(12), 4);
+        dialog.working().setSymbol(2, 1, 9);
+        dialog.chkShow = true;
+        dialog.preview();
+        EXPECT_EQ(st.AlarmSymbol[1][0], 9);
+        EXPECT_EQ(v.styles().at(0).symbol, Chart::SymbolShape(9));
+        dialog.Cancel();
+        EXPECT_EQ(st.AlarmSymbol[1][0], 2);
+        EXPECT_FALSE(AlarmMarks::ShowAlarmMarks(6));
+        EXPECT_TRUE(v.styles().empty());
+    }
+    {
+        AlarmSymbolSettings dialog(v.view);
+        dialog.working().setColor(2, 1, 0xFF0000);
+        dialog.chkShow = true;
+        dialog.OK();
+        EXPECT_EQ(st.AlarmColor[1][0], 0xFF0000u);
+        EXPECT_EQ(v.styles().at(0).color, QColor(0, 0, 255));
+        EXPECT_EQ(st.AlarmSymbol[5][0], 10); // slot 6 keeps its default
+    }
+    views(6).ChannelCount = 0;
+    AlarmSymbolSettings empty(v.view);
+    empty.working().setSize(1, 1, 9);
+    empty.chkShow = false;
+    empty.OK();
+    EXPECT_FALSE(AlarmMarks::ShowAlarmMarks(6));
+    EXPECT_EQ(st.AlarmSize[0][0], 4);
+}
