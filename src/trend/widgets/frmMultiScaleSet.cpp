@@ -6,6 +6,7 @@
 #include "trend/widgets/TrendTexts.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QTableWidget>
 #include <QVBoxLayout>

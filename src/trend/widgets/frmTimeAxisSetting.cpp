@@ -1,9 +1,11 @@
 #include "trend/widgets/frmTimeAxisSetting.h"
 
 #include "app/LanguageTable.h"
+#include "trend/TrendView.h"
 #include "trend/widgets/DialogParts.h"
 #include "trend/widgets/TrendTexts.h"
 
+#include <QDialogButtonBox>
 #include <QDoubleValidator>
 #include <QGridLayout>
 #include <QGroupBox>

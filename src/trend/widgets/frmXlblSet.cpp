@@ -6,6 +6,7 @@
 #include "trend/widgets/DialogParts.h"
 #include "trend/widgets/TrendTexts.h"
 
+#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>

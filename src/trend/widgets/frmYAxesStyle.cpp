@@ -1,10 +1,12 @@
 #include "trend/widgets/frmYAxesStyle.h"
 
 #include "app/LanguageTable.h"
+#include "trend/TrendView.h"
 #include "trend/widgets/DialogParts.h"
 #include "trend/widgets/TrendTexts.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
