@@ -22,6 +22,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -49,7 +50,20 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
         axis->setTitleFont(chartFont);
     }
 
+    // The date line of the shown span stands above the chart, on the chart's own background.
+    lblTitle_ = new QLabel(this);
+    lblTitle_->setObjectName(QStringLiteral("lblTitle"));
+    lblTitle_->setAlignment(Qt::AlignCenter);
+    lblTitle_->setFont(QFont(LanguageFont(), kChartPointSize + 1, QFont::Bold));
+    lblTitle_->setAutoFillBackground(true);
+    QPalette titlePalette = lblTitle_->palette();
+    titlePalette.setColor(QPalette::Window, model.colors().ChartAreaBackColor);
+    lblTitle_->setPalette(titlePalette);
+    lblTitle_->setContentsMargins(0, 3, 0, 1);
+
     plotArea_ = new QWidget(this);
+    plotArea_->setAutoFillBackground(true);
+    plotArea_->setPalette(titlePalette);
     plotArea_->installEventFilter(this);
     chart_ = new ChartWidget(&model, plotArea_);
     chart_->installEventFilter(this);
@@ -77,6 +91,7 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
     barsLayout->addWidget(Toolbar2_);
     barsLayout->addStretch(1);
     layout->addWidget(bars);
+    layout->addWidget(lblTitle_);
     layout->addWidget(plotArea_, 1);
 
     setHooks();
@@ -194,8 +209,6 @@ bool frmScrollTime::LoadRecording() {
     }
     if (!outcome.ok()) return false;
     const bool shown = trend_->afterLoad(&progress);
-    if (ChartLabel* title = trend_->chart().labels().item(QStringLiteral("Title")))
-        title->Font = QFont(LanguageFont(), kChartPointSize + 1, QFont::Bold);
     trend_->window().Caption = shown ? view.ViewTitle : QString();
     syncControls();
     Form_Resize();
@@ -240,6 +253,15 @@ void frmScrollTime::Form_Resize() {
 void frmScrollTime::drawStrips() {
     const auto& layout = trend_->scales().strips();
     const bool shown = trend_->state().ScaleType == 2;
+    // The strips' tag and unit stand above the plot: keep two lines of room there.
+    ChartModel& model = trend_->chart();
+    QMargins margins = model.chartAreaMargins();
+    const int head =
+        shown ? 2 * QFontMetrics(QFont(QStringLiteral("Tahoma"), kChartPointSize)).height() : 0;
+    if (margins.top() != head) {
+        margins.setTop(head);
+        model.setChartAreaMargins(margins);
+    }
     while (strips_.size() < layout.size()) strips_.push_back(new MultiScaleStripWidget(chart_));
     const QRectF plot = chart_->chartGeometry().plotArea();
     const int size = trend_->chart().axisY().font().pointSize();
@@ -270,6 +292,14 @@ void frmScrollTime::syncControls() {
     hsbTrendGraph_->setEnabled(bar.Enabled);
     syncing_ = false;
     setWindowTitle(w.Caption);
+    // The chart's "Title" label is shown by lblTitle above the plot rather than over it.
+    if (ChartLabel* title = trend_->chart().labels().item(QStringLiteral("Title"))) {
+        lblTitle_->setText(title->Text);
+        if (title->IsShown) {
+            title->IsShown = false;
+            trend_->chart().touch();
+        }
+    }
 }
 
 void frmScrollTime::scrolled(int value) {
@@ -324,4 +354,8 @@ void frmScrollTime::dropEvent(QDropEvent* event) {
     for (const QUrl& url : event->mimeData()->urls())
         if (url.isLocalFile()) paths << url.toLocalFile();
     if (!paths.isEmpty()) Q_EMIT filesDropped(viewNumber_, paths);
+}
+
+QString frmScrollTime::titleText() const {
+    return lblTitle_->text();
 }

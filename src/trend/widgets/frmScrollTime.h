@@ -10,6 +10,7 @@
 class ChartWidget;
 class MultiScaleStripWidget;
 class QAction;
+class QLabel;
 class QMenu;
 class QMenuBar;
 class QScrollBar;
@@ -48,6 +49,8 @@ public:
     QAction* toolbar2Action(int number) const;
     // The chart's popup menu, as it stands now.
     QMenu* popupMenu() const { return popup_; }
+    // The date line of the span on show.
+    QString titleText() const;
     // The side scale strips on show (ScaleType 2).
     std::vector<MultiScaleStripWidget*> strips() const;
 
@@ -79,6 +82,7 @@ private:
     std::unique_ptr<TrendView> trend_;
     ChartWidget* chart_ = nullptr;
     QWidget* plotArea_ = nullptr;
+    QLabel* lblTitle_ = nullptr;
     QScrollBar* hsbTrendGraph_ = nullptr;
     QToolBar* Toolbar2_ = nullptr;
     QMenu* popup_ = nullptr;
