@@ -72,9 +72,12 @@ SideGridView::~SideGridView() {
 
 void SideGridView::refresh() {
     model_->reset();
-    const int charWidth = QFontMetrics(font()).averageCharWidth();
+    // Widths are kept in characters; a cell adds its margins.
+    const int charWidth = QFontMetrics(font()).horizontalAdvance(QLatin1Char('0'));
+    constexpr int kMargins = 8;
     const ReadoutGrid& g = grid_.grid();
-    verticalHeader()->setMinimumWidth(g.columnWidth(0) * charWidth);
-    for (int c = 1; c <= g.columnCount(); ++c) setColumnWidth(c - 1, g.columnWidth(c) * charWidth);
+    verticalHeader()->setMinimumWidth(g.columnWidth(0) * charWidth + kMargins);
+    for (int c = 1; c <= g.columnCount(); ++c)
+        setColumnWidth(c - 1, g.columnWidth(c) * charWidth + kMargins);
     for (int r = 1; r <= g.rowCount(); ++r) setRowHidden(r - 1, g.isRowHidden(r));
 }
