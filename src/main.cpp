@@ -1,9 +1,8 @@
+#include "app/ShowMsg.h"
+#include "app/SubMain.h"
 #include "app/cli/Cli.h"
-#include "app/widgets/StartWindow.h"
-#include "recording/CommandFiles.h"
-#include "recording/RecordingLoader.h"
-#include "recording/SelectionLists.h"
-#include "trend/widgets/frmScrollTime.h"
+#include "app/widgets/DesktopStartup.h"
+#include "app/widgets/frmMessageBox.h"
 
 #include <QApplication>
 #include <QDir>
@@ -33,18 +32,11 @@ int main(int argc, char** argv) {
 
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("recview"));
-    // Until the main window holds the views, files open straight into view 1.
-    if (!args.isEmpty()) {
-        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(args), false);
-        if (selection().SelFileCount > 0) {
-            copySelectionToView(views(1));
-            auto* view = new frmScrollTime(1);
-            view->show();
-            view->LoadRecording();
-            return QApplication::exec();
-        }
-    }
-    StartWindow window(args);
-    window.show();
-    return QApplication::exec();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    MessageBoxSink boxes;
+    setMessageSink(&boxes);
+    DesktopStartup host(args);
+    const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
+    setMessageSink(nullptr);
+    return code;
 }

@@ -1,6 +1,8 @@
 #include "app/widgets/frmProgress.h"
 
 #include "app/LanguageTable.h"
+#include "app/widgets/ApplyLanguageFont.h"
+#include "recording/ViewTables.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -9,14 +11,18 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-frmProgress::frmProgress(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("recview"));
-    setModal(false);
+frmProgress::frmProgress(QWidget* parent, int viewNumber)
+    : QDialog(parent), viewNumber_(viewNumber) {
+    setObjectName(QStringLiteral("frmProgress"));
+    ApplyLanguageFont(this);
+    setWindowTitle(QCoreApplication::applicationName());
+    setWindowModality(Qt::ApplicationModal);
     message_ = new QLabel(MsgText(96), this);
     bar_ = new QProgressBar(this);
     bar_->setRange(0, 100);
     auto* btnCancel = new QPushButton(MsgText(47), this);
-    connect(btnCancel, &QPushButton::clicked, this, [this] { cancelled_ = true; });
+    btnCancel->setObjectName(QStringLiteral("btnCancel"));
+    connect(btnCancel, &QPushButton::clicked, this, &frmProgress::Cancel);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(message_);
     layout->addWidget(bar_);
@@ -30,6 +36,11 @@ void frmProgress::setMessage(const QString& text) {
 
 void frmProgress::setValue(int percent) {
     bar_->setValue(percent);
+}
+
+void frmProgress::Cancel() {
+    cancelled_ = true;
+    if (viewNumber_ >= 1) views(viewNumber_).ViewCancel = true;
 }
 
 bool frmProgress::poll() {

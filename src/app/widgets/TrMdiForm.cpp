@@ -1,0 +1,79 @@
+#include "app/widgets/TrMdiForm.h"
+
+#include "app/widgets/ApplyLanguageFont.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMimeData>
+
+QStringList droppedPaths(const QDropEvent* event) {
+    QStringList paths;
+    if (event->mimeData() == nullptr) return paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) paths << url.toLocalFile();
+    return paths;
+}
+
+TrMdiForm::TrMdiForm(QWidget* parent) : QMainWindow(parent) {
+    setObjectName(QStringLiteral("TrMdiForm"));
+    ApplyLanguageFont(this);
+    setAcceptDrops(true);
+    mdiArea_ = new QMdiArea(this);
+    mdiArea_->setObjectName(QStringLiteral("mdiArea"));
+    mdiArea_->setBackground(QColor(0x5a, 0x6b, 0x7d));
+    mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(mdiArea_);
+    resize(1280, 800);
+}
+
+QMdiSubWindow* TrMdiForm::addChild(QWidget* window) {
+    QMdiSubWindow* sub = mdiArea_->addSubWindow(window);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    return sub;
+}
+
+int TrMdiForm::TileWindows(int mode, const QStringList& kinds) {
+    QList<QMdiSubWindow*> tiled;
+    for (QMdiSubWindow* sub : mdiArea_->subWindowList(QMdiArea::CreationOrder)) {
+        if (sub->widget() == nullptr || !sub->isVisible()) continue;
+        const QString kind =
+            QString::fromLatin1(sub->widget()->metaObject()->className()).toUpper();
+        if (kinds.contains(kind)) tiled << sub;
+    }
+    const QRect area = mdiArea_->viewport()->rect();
+    const int n = int(tiled.size());
+    for (int i = 0; i < n; ++i) {
+        QMdiSubWindow* sub = tiled[i];
+        if (sub->isMinimized() || sub->isMaximized()) sub->showNormal();
+        if (mode == 0) {
+            const int left = area.width() * i / n;
+            sub->setGeometry(left, 0, area.width() * (i + 1) / n - left, area.height());
+        } else {
+            const int top = area.height() * i / n;
+            sub->setGeometry(0, top, area.width(), area.height() * (i + 1) / n - top);
+        }
+    }
+    return n;
+}
+
+void TrMdiForm::closeEvent(QCloseEvent* event) {
+    Q_EMIT closing();
+    // The views close with the frame, each freeing its slot.
+    mdiArea_->closeAllSubWindows();
+    event->accept();
+}
+
+void TrMdiForm::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void TrMdiForm::dropEvent(QDropEvent* event) {
+    const QStringList paths = droppedPaths(event);
+    if (paths.isEmpty()) return;
+    event->acceptProposedAction();
+    Q_EMIT filesDropped(paths);
+}

@@ -1,0 +1,62 @@
+#include "app/widgets/frmGroupNameDialog.h"
+
+#include "app/AppPaths.h"
+#include "app/LanguageTable.h"
+#include "app/StartFiles.h"
+#include "app/ViewSlots.h"
+#include "app/widgets/ApplyLanguageFont.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+frmGroupNameDialog::frmGroupNameDialog(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmGroupNameDialog"));
+    ApplyLanguageFont(this);
+    setWindowTitle(MsgText(204).trimmed());
+    grid_ = new QTableWidget(10, 1, this);
+    grid_->setObjectName(QStringLiteral("vaSpread1"));
+    grid_->setHorizontalHeaderLabels({MsgText(218)});
+    grid_->horizontalHeader()->setStretchLastSection(true);
+    grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    grid_->setSelectionMode(QAbstractItemView::SingleSelection);
+    for (int row = 0; row < 10; ++row) {
+        QString name = GroupNames(row + 1);
+        if (name.isEmpty()) name = defaultGroupName(row + 1);
+        auto* item = new QTableWidgetItem(name);
+        // A view that is open is shown in bold.
+        QFont font = item->font();
+        font.setBold(ViewInUse(row));
+        item->setFont(font);
+        grid_->setItem(row, 0, item);
+    }
+    selectRow(FirstFreeView() > 0 ? FirstFreeView() : 1);
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(MsgText(46), QDialogButtonBox::AcceptRole);
+    buttons->addButton(MsgText(47), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &frmGroupNameDialog::take);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(grid_, &QTableWidget::cellDoubleClicked, this, &frmGroupNameDialog::take);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(grid_);
+    layout->addWidget(buttons);
+    resize(360, 400);
+}
+
+void frmGroupNameDialog::selectRow(int view) {
+    if (view >= 1 && view <= 10) grid_->selectRow(view - 1);
+}
+
+void frmGroupNameDialog::take() {
+    const int row = grid_->currentRow();
+    if (row < 0) return;
+    for (int i = 0; i < 10; ++i) {
+        const QString name = grid_->item(i, 0)->text().trimmed();
+        setGroupName(i + 1, name.isEmpty() ? defaultGroupName(i + 1) : name);
+    }
+    SaveGroupNames(false);
+    chosen_ = row + 1;
+    accept();
+}

@@ -1,0 +1,71 @@
+#include "app/widgets/frmVersion.h"
+
+#include "app/AppPaths.h"
+#include "app/GSMode.h"
+#include "app/LanguageTable.h"
+#include "app/clsCommon.h"
+#include "app/widgets/ApplyLanguageFont.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+QString& helpFile() {
+    static QString path;
+    return path;
+}
+
+} // namespace
+
+frmVersion::frmVersion(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmVersion"));
+    ApplyLanguageFont(this);
+    setWindowTitle(MsgText(455));
+    auto* icon = new QLabel(this);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_ComputerIcon).pixmap(48, 48));
+    auto* text = new QLabel(this);
+    text->setObjectName(QStringLiteral("lblVersion"));
+    text->setText(QStringLiteral("<b style='font-size:14pt'>recview%1</b><br>%2 %3<br><br>Qt %4")
+                      .arg(GSMode().GSTitleSuffix.toHtmlEscaped(), MsgText(455).toHtmlEscaped(),
+                           QStringLiteral(RECVIEW_VERSION), QString::fromLatin1(qVersion())));
+    auto* ok = new QPushButton(MsgText(46), this);
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto* top = new QHBoxLayout;
+    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addSpacing(16);
+    top->addWidget(text, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addWidget(ok, 0, Qt::AlignRight);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void setHelpFile(const QString& path) {
+    helpFile() = path;
+}
+
+bool ShowHelp() {
+    if (ActiveLanguage() == kChinese && clsCommon::shared().OperationMode() == 34) return false;
+    const QFileInfo help(helpFile());
+    const QStringList candidates{
+        help.absolutePath() + QLatin1Char('/') + help.completeBaseName() + QStringLiteral(".html"),
+        AppPaths(0) + QStringLiteral("help/index.html"),
+        AppPaths(0) + QStringLiteral("README.md"),
+        AppPaths(0) + QStringLiteral("../share/doc/recview/README.md"),
+        AppPaths(0) + QStringLiteral("../README.md"),
+    };
+    for (const QString& path : candidates)
+        if (QFileInfo(path).isFile())
+            return QDesktopServices::openUrl(
+                QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    return false;
+}
