@@ -1,0 +1,165 @@
+#include "TrendWindowFixture.h"
+
+#include <QAction>
+#include <QImage>
+#include <QMenu>
+#include <QScrollBar>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using trendwidgets::LoadedWindow;
+
+namespace {
+
+// Pixels of a line's colour inside a rectangle of an image. Lines are drawn smoothed, so a
+// pixel counts when it has the pen's hue and is clearly coloured (the pale background is not).
+int countColour(const QImage& image, const QRect& area, const QColor& pen) {
+    int n = 0;
+    const QRect inside = area.intersected(image.rect());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            const int hueGap = std::abs(c.hsvHue() - pen.hsvHue());
+            n += c.hsvSaturation() > 50 && std::min(hueGap, 360 - hueGap) < 20;
+        }
+    }
+    return n;
+}
+
+} // namespace
+
+// A loaded view shows its channels as lines in their pen colours on the pale yellow plot, the
+// file's name as caption and the date line of the span.
+TEST(frmScrollTime, LoadedViewDrawsTheRecording) {
+    LoadedWindow w(1);
+    ASSERT_TRUE(w.loaded);
+    EXPECT_EQ(w.window->windowTitle(), QStringLiteral("trend1.vxf"));
+    EXPECT_FALSE(w.window->titleText().isEmpty());
+    const QImage image = w.chart().grab().toImage();
+    const QRect plot = w.plot().toAlignedRect().adjusted(2, 2, -2, -2);
+    const QColor background = w.trend().chart().colors().PlotAreaBackColor;
+    EXPECT_EQ(background, QColor(255, 255, 225));
+    int plain = 0;
+    for (int y = plot.top(); y <= plot.bottom(); ++y)
+        for (int x = plot.left(); x <= plot.right(); ++x)
+            plain += image.pixelColor(x, y) == background;
+    EXPECT_GT(plain, plot.width() * plot.height() / 2);
+    for (int s = 1; s <= 2; ++s) {
+        const QColor pen = w.trend().chart().seriesStyle(s).color;
+        EXPECT_GT(countColour(image, plot, pen), plot.width() / 2) << "series " << s;
+    }
+    // Channel 2 is a flat line at 5.0: its pixels lie in the row where Y = 5 maps.
+    const int row = int(w.chart().chartGeometry().dataToPixel(10, 5).y());
+    const QColor pen2 = w.trend().chart().seriesStyle(2).color;
+    EXPECT_GT(countColour(image, QRect(plot.left(), row - 1, plot.width(), 3), pen2),
+              plot.width() * 9 / 10);
+}
+
+// A left drag over the plot zooms X to the points under the band's edges and enables the
+// zoom buttons and the scroll bar; command 1 goes back a level, command 2 to the whole.
+TEST(frmScrollTime, BandZoomAndToolbarCommands) {
+    LoadedWindow w(2);
+    ASSERT_TRUE(w.loaded);
+    QAction* back = w.window->toolbar2Action(1);
+    QAction* whole = w.window->toolbar2Action(2);
+    ASSERT_TRUE(back && whole);
+    EXPECT_FALSE(back->isEnabled());
+    EXPECT_FALSE(whole->isEnabled());
+    EXPECT_FALSE(w.window->hsbTrendGraph()->isEnabled());
+    EXPECT_EQ(w.xMin(), 0);
+    EXPECT_EQ(w.xMax(), 599);
+
+    const QRectF plot = w.plot();
+    const QPointF from(plot.left() + plot.width() * 0.25, plot.center().y());
+    const QPointF to(plot.left() + plot.width() * 0.5, plot.center().y());
+    w.drag(Qt::LeftButton, from, to);
+    EXPECT_EQ(w.trend().state().ZoomLevel, 1);
+    EXPECT_NEAR(w.xMin(), 150, 2);
+    EXPECT_NEAR(w.xMax(), 300, 2);
+    EXPECT_TRUE(back->isEnabled());
+    EXPECT_TRUE(whole->isEnabled());
+    EXPECT_TRUE(w.window->hsbTrendGraph()->isEnabled());
+
+    // A second band zooms further; back returns to the first band's range.
+    const QRectF plot2 = w.plot();
+    w.drag(Qt::LeftButton, QPointF(plot2.left() + 10, plot2.center().y()),
+           QPointF(plot2.right() - 10, plot2.center().y()));
+    EXPECT_EQ(w.trend().state().ZoomLevel, 2);
+    back->trigger();
+    EXPECT_EQ(w.trend().state().ZoomLevel, 1);
+    EXPECT_NEAR(w.xMin(), 150, 2);
+    whole->trigger();
+    EXPECT_EQ(w.trend().state().ZoomLevel, 0);
+    EXPECT_EQ(w.xMin(), 0);
+    EXPECT_EQ(w.xMax(), 599);
+    EXPECT_FALSE(back->isEnabled());
+    EXPECT_FALSE(w.window->hsbTrendGraph()->isEnabled());
+}
+
+// Bands that the zoom refuses leave the view as it was: a band of one point, a band while a
+// cursor is on, and any band at level 99, where the stack is full and the zoom is left pending.
+TEST(frmScrollTime, RefusedBands) {
+    LoadedWindow w(3);
+    ASSERT_TRUE(w.loaded);
+    const QRectF plot = w.plot();
+    const QPointF mid = plot.center();
+    w.drag(Qt::LeftButton, mid, mid + QPointF(0.2, 0));
+    EXPECT_EQ(w.trend().state().ZoomLevel, 0);
+
+    w.trend().state().CursorAOn = true;
+    w.drag(Qt::LeftButton, QPointF(plot.left() + 5, mid.y()), QPointF(plot.right() - 5, mid.y()));
+    EXPECT_EQ(w.trend().state().ZoomLevel, 0);
+    w.trend().state().CursorAOn = false;
+
+    w.trend().state().ZoomLevel = 99;
+    w.drag(Qt::LeftButton, QPointF(plot.left() + 5, mid.y()), QPointF(plot.right() - 5, mid.y()));
+    EXPECT_EQ(w.trend().state().ZoomLevel, 99);
+    EXPECT_TRUE(w.trend().state().ZoomPending);
+}
+
+// A right drag zooms Y to the values under the band's edges and keeps X; a right click
+// without a drag opens the popup menu with the zoom commands.
+TEST(frmScrollTime, RightButtonBandAndPopup) {
+    LoadedWindow w(4);
+    ASSERT_TRUE(w.loaded);
+    const QRectF plot = w.plot();
+    const ChartGeometry g = w.chart().chartGeometry();
+    const double top = g.dataToPixel(0, 8).y();
+    const double bottom = g.dataToPixel(0, 2).y();
+    w.drag(Qt::RightButton, QPointF(plot.center().x(), top), QPointF(plot.center().x(), bottom));
+    EXPECT_EQ(w.trend().state().ZoomLevel, 1);
+    EXPECT_NEAR(w.trend().chart().axisY().min(), 2, 0.1);
+    EXPECT_NEAR(w.trend().chart().axisY().max(), 8, 0.1);
+    EXPECT_EQ(w.xMin(), 0);
+    EXPECT_EQ(w.xMax(), 599);
+    EXPECT_FALSE(w.window->hsbTrendGraph()->isEnabled()); // X is the whole recording
+
+    w.mouse(QEvent::MouseButtonPress, Qt::RightButton, plot.center());
+    w.mouse(QEvent::MouseButtonRelease, Qt::RightButton, plot.center());
+    QMenu* popup = w.window->popupMenu();
+    EXPECT_TRUE(popup->isVisible());
+    EXPECT_TRUE(popup->actions().contains(w.window->toolbar2Action(1)));
+    EXPECT_EQ(w.trend().state().ZoomLevel, 1);
+    popup->hide();
+}
+
+// Moving the scroll bar of a zoomed view shows a span of the same length further on, in
+// proportion to the bar's position; the zoom level stays.
+TEST(frmScrollTime, ScrollBarMovesTheRange) {
+    LoadedWindow w(5);
+    ASSERT_TRUE(w.loaded);
+    QScrollBar* bar = w.window->hsbTrendGraph();
+    w.drag(Qt::LeftButton, QPointF(w.plot().left() + 2, w.plot().center().y()),
+           QPointF(w.plot().left() + w.plot().width() / 6, w.plot().center().y()));
+    ASSERT_TRUE(bar->isEnabled());
+    const double span = w.xMax() - w.xMin();
+    bar->setValue(300);
+    EXPECT_NEAR(w.xMin(), 300, 2);
+    EXPECT_NEAR(w.xMax() - w.xMin(), span, 2);
+    EXPECT_EQ(bar->value(), 300);
+    bar->setValue(bar->maximum());
+    EXPECT_NEAR(w.xMax(), 599, 2);
+    EXPECT_EQ(w.trend().state().ZoomLevel, 1);
+}
