@@ -55,6 +55,19 @@ frmMultiScaleSet::frmMultiScaleSet(TrendView& view, QWidget* parent)
     layout->addWidget(okCancelButtons(this, [this] { btnOK_Click(); }));
 }
 
+void frmMultiScaleSet::fillEmptyScales() {
+    const ChannelTable& ch = view_.tables().Channels;
+    for (int r = 0; r < grid_->rowCount(); ++r) {
+        for (int c : {kLow, kHigh}) {
+            QTableWidgetItem* item = grid_->item(r, c);
+            if (!item->text().trimmed().isEmpty()) continue;
+            const QString& scale =
+                c == kLow ? ch.ChScaleLow[size_t(r + 1)] : ch.ChScaleHigh[size_t(r + 1)];
+            item->setText(scale.trimmed()); // checked by cellChanged like a typed text
+        }
+    }
+}
+
 void frmMultiScaleSet::cellChanged(QTableWidgetItem* item) {
     if (filling_ || (item->column() != kLow && item->column() != kHigh)) return;
     MultiScaleSet::Row& row = set_.rows[size_t(item->row())];

@@ -20,6 +20,8 @@ public:
     explicit frmMultiScaleSet(TrendView& view, QWidget* parent = nullptr);
 
     QTableWidget* grid() const { return grid_; }
+    // Scale cells left empty take the channel's own scale (a table that was never set).
+    void fillEmptyScales();
     void btnOK_Click();
 
 private:

@@ -95,6 +95,8 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
     layout->addWidget(plotArea_, 1);
 
     setHooks();
+    // Whatever changes the chart (a dialog of another window too) brings the controls along.
+    connect(&model, &ChartModel::changed, this, &frmScrollTime::syncControls);
     syncControls();
     resize(1000, 640);
 }
@@ -257,7 +259,7 @@ void frmScrollTime::drawStrips() {
     ChartModel& model = trend_->chart();
     QMargins margins = model.chartAreaMargins();
     const int head =
-        shown ? 2 * QFontMetrics(QFont(QStringLiteral("Tahoma"), kChartPointSize)).height() : 0;
+        shown ? 5 * QFontMetrics(QFont(QStringLiteral("Tahoma"), kChartPointSize)).height() / 2 : 0;
     if (margins.top() != head) {
         margins.setTop(head);
         model.setChartAreaMargins(margins);
@@ -324,7 +326,17 @@ void frmScrollTime::commandAfterDialog(int number) {
 
 void frmScrollTime::showMultiScaleSet() {
     frmMultiScaleSet dialog(*trend_, this);
+    dialog.fillEmptyScales();
     if (dialog.exec() != QDialog::Accepted) return;
+    // The strips read percents of each channel's scale: the series follow into percent mode.
+    TrendViewState& st = trend_->state();
+    if (!st.ScalePercentMode) {
+        st.ScalePercentMode = true;
+        trend_->plot().ScaleCalculateSet();
+        st.ZoomY[0] = {0, 0, 100};
+        st.ZoomLevel = 0;
+        trend_->zoom().SetZoom(0);
+    }
     syncControls();
     stripPlotHeight_ = -1;
     Form_Resize();
