@@ -1,6 +1,7 @@
 #include "app/widgets/TrMdiForm.h"
 
 #include "app/widgets/ApplyLanguageFont.h"
+#include "app/widgets/ToolIcons.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -8,6 +9,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMimeData>
+#include <QScreen>
 
 QStringList droppedPaths(const QDropEvent* event) {
     QStringList paths;
@@ -27,7 +29,11 @@ TrMdiForm::TrMdiForm(QWidget* parent) : QMainWindow(parent) {
     mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(mdiArea_);
-    resize(1280, 800);
+    setWindowIcon(ToolIcons::mainButton(1));
+    // Until the stored position is restored: most of the screen, in its middle.
+    const QRect screenArea = screen()->availableGeometry();
+    resize(screenArea.size() * 9 / 10);
+    move(screenArea.center() - rect().center());
 }
 
 QMdiSubWindow* TrMdiForm::addChild(QWidget* window) {

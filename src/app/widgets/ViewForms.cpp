@@ -5,6 +5,7 @@
 #include "recording/ViewTables.h"
 #include "trend/widgets/frmScrollTime.h"
 
+#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -24,12 +25,30 @@ frmScrollTime* ViewForms::ensure(int n) {
     connect(form, &frmScrollTime::viewClosed, this, &ViewForms::closed);
     connect(form, &frmScrollTime::filesDropped, this, &ViewForms::filesDropped);
     QMdiSubWindow* sub = frame_->addChild(form);
-    // A new window stands a little below and right of the one before, at a useful size.
-    const QRect area = frame_->mdiArea()->viewport()->rect();
-    const int step = 28 * ((n - 1) % 6);
-    sub->setGeometry(step, step, qMax(480, area.width() * 4 / 5), qMax(320, area.height() * 4 / 5));
+    place(sub, n);
     sub->show();
     return form;
+}
+
+void ViewForms::place(QMdiSubWindow* sub, int n) {
+    // The frame's tool bar may have come since its last layout: place by the area as it stands.
+    if (frame_->layout() != nullptr) frame_->layout()->activate();
+    const QRect area = frame_->mdiArea()->viewport()->rect();
+    // The only view fills the work area; later ones stand a little below and right of the
+    // top left, at a useful size.
+    if (openCount() == 1) {
+        sub->setGeometry(area);
+        return;
+    }
+    const int step = 28 * ((n - 1) % 6);
+    sub->setGeometry(step, step, qMax(480, area.width() * 4 / 5), qMax(320, area.height() * 4 / 5));
+}
+
+void ViewForms::fitIfAlone(int n) {
+    frmScrollTime* form = ViewForm(n);
+    auto* sub = form != nullptr ? qobject_cast<QMdiSubWindow*>(form->parentWidget()) : nullptr;
+    if (sub != nullptr && openCount() == 1 && !sub->isMaximized() && !sub->isMinimized())
+        place(sub, n);
 }
 
 int ViewForms::openCount() const {

@@ -6,6 +6,7 @@
 
 #include <array>
 
+class QMdiSubWindow;
 class TrMdiForm;
 class frmScrollTime;
 
@@ -25,11 +26,14 @@ public:
     int openCount() const;
     // Shows the view's window in front of the others and makes it the active one.
     void bringForward(int n);
+    // A view that is the only one fills the work area (once its window has its final size).
+    void fitIfAlone(int n);
 
 Q_SIGNALS:
     void filesDropped(int viewNumber, const QStringList& paths);
 
 private:
+    void place(QMdiSubWindow* sub, int n);
     void closed(int n);
 
     TrMdiForm* frame_;

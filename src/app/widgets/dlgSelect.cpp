@@ -1,6 +1,7 @@
 #include "app/widgets/dlgSelect.h"
 
 #include "app/LanguageTable.h"
+#include "app/LocaleInfo.h"
 #include "app/StartFiles.h"
 #include "app/clsCommon.h"
 #include "app/widgets/ApplyLanguageFont.h"
@@ -94,6 +95,8 @@ dlgSelect::dlgSelect(int viewNumber, QWidget* parent)
     dirTree_->setModel(folders_);
     for (int column = 1; column < folders_->columnCount(); ++column) dirTree_->hideColumn(column);
     dirTree_->setHeaderHidden(true);
+    dirTree_->setSortingEnabled(true);
+    dirTree_->sortByColumn(0, Qt::AscendingOrder);
     connect(dirTree_, &QTreeView::clicked, this,
             [this](const QModelIndex& index) { setDirectory(folders_->filePath(index)); });
 

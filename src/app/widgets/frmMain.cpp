@@ -4,6 +4,7 @@
 #include "app/ClickFile.h"
 #include "app/GSMode.h"
 #include "app/LanguageTable.h"
+#include "app/LocaleInfo.h"
 #include "app/StartFiles.h"
 #include "app/SubMain.h"
 #include "app/ViewSlots.h"
@@ -238,11 +239,13 @@ bool frmMain::OpenView(int number) {
 
 void frmMain::timWindow_Timer() {
     timWindow_->stop();
+    forms_->fitIfAlone(pendingView_);
     forms_->bringForward(pendingView_);
 }
 
 void frmMain::timFTP_Timer() {
-    StatusBar2_->setText(QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat));
+    StatusBar2_->setText(
+        LocaleInfo::systemLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat));
     // The scheduled collection starts here once the collection is part of the program.
 }
 

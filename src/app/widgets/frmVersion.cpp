@@ -5,6 +5,7 @@
 #include "app/LanguageTable.h"
 #include "app/clsCommon.h"
 #include "app/widgets/ApplyLanguageFont.h"
+#include "app/widgets/ToolIcons.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -12,7 +13,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -30,7 +30,7 @@ frmVersion::frmVersion(QWidget* parent) : QDialog(parent) {
     ApplyLanguageFont(this);
     setWindowTitle(MsgText(455));
     auto* icon = new QLabel(this);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_ComputerIcon).pixmap(48, 48));
+    icon->setPixmap(ToolIcons::mainButton(1).pixmap(64, 64));
     auto* text = new QLabel(this);
     text->setObjectName(QStringLiteral("lblVersion"));
     text->setText(QStringLiteral("<b style='font-size:14pt'>recview%1</b><br>%2 %3<br><br>Qt %4")
