@@ -87,19 +87,7 @@ dlgSelect::dlgSelect(int viewNumber, QWidget* parent)
     ApplyLanguageFont(this);
     setWindowTitle(MsgText(217));
 
-    folders_ = new QFileSystemModel(this);
-    folders_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    folders_->setRootPath(QStringLiteral("/"));
-    dirTree_ = new QTreeView(this);
-    dirTree_->setObjectName(QStringLiteral("Dir1"));
-    dirTree_->setModel(folders_);
-    for (int column = 1; column < folders_->columnCount(); ++column) dirTree_->hideColumn(column);
-    dirTree_->setHeaderHidden(true);
-    dirTree_->setSortingEnabled(true);
-    dirTree_->sortByColumn(0, Qt::AscendingOrder);
-    connect(dirTree_, &QTreeView::clicked, this,
-            [this](const QModelIndex& index) { setDirectory(folders_->filePath(index)); });
-
+    buildFolderTree();
     lblPath_ = new QLabel(this);
     lblPath_->setObjectName(QStringLiteral("lblPath"));
     lstFiles_ = fileList(this, "File1");
@@ -143,6 +131,21 @@ dlgSelect::dlgSelect(int viewNumber, QWidget* parent)
 
     setDispType(gsMode_ ? Family::P4F : Family::VXF);
     setDirectory(ReadLastDirectory());
+}
+
+void dlgSelect::buildFolderTree() {
+    folders_ = new QFileSystemModel(this);
+    folders_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
+    folders_->setRootPath(QStringLiteral("/"));
+    dirTree_ = new QTreeView(this);
+    dirTree_->setObjectName(QStringLiteral("Dir1"));
+    dirTree_->setModel(folders_);
+    for (int column = 1; column < folders_->columnCount(); ++column) dirTree_->hideColumn(column);
+    dirTree_->setHeaderHidden(true);
+    dirTree_->setSortingEnabled(true);
+    dirTree_->sortByColumn(0, Qt::AscendingOrder);
+    connect(dirTree_, &QTreeView::clicked, this,
+            [this](const QModelIndex& index) { setDirectory(folders_->filePath(index)); });
 }
 
 QWidget* dlgSelect::buildOptions() {

@@ -42,6 +42,7 @@ public:
     void done(int result) override;
 
 private:
+    void buildFolderTree();
     QWidget* buildOptions();
     void fillFiles();
     void fillChosen();
