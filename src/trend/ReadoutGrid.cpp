@@ -16,7 +16,7 @@ void ReadoutGrid::resize(int rows, int cols) {
 }
 
 const ReadoutGrid::Cell* ReadoutGrid::at(int row, int col) const {
-    if (row < 0 || row > rows_ || col < 0 || col > cols_) return nullptr;
+    if (cells_.empty() || row < 0 || row > rows_ || col < 0 || col > cols_) return nullptr;
     return &cells_[size_t(row) * size_t(cols_ + 1) + size_t(col)];
 }
 
@@ -43,17 +43,18 @@ void ReadoutGrid::setColor(int row, int col, quint32 bgr) {
 }
 
 int ReadoutGrid::columnWidth(int col) const {
-    return col >= 0 && col <= cols_ ? widths_[size_t(col)] : 0;
+    // A grid never sized has no widths yet.
+    return col >= 0 && size_t(col) < widths_.size() ? widths_[size_t(col)] : 0;
 }
 
 void ReadoutGrid::setColumnWidth(int col, int width) {
-    if (col >= 0 && col <= cols_) widths_[size_t(col)] = width;
+    if (col >= 0 && size_t(col) < widths_.size()) widths_[size_t(col)] = width;
 }
 
 bool ReadoutGrid::isRowHidden(int row) const {
-    return row >= 0 && row <= rows_ && hidden_[size_t(row)];
+    return row >= 0 && size_t(row) < hidden_.size() && hidden_[size_t(row)];
 }
 
 void ReadoutGrid::setRowHidden(int row, bool hidden) {
-    if (row >= 0 && row <= rows_) hidden_[size_t(row)] = hidden;
+    if (row >= 0 && size_t(row) < hidden_.size()) hidden_[size_t(row)] = hidden;
 }

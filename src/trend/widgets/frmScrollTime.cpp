@@ -6,11 +6,16 @@
 #include "platform/ChartGeometry.h"
 #include "platform/widgets/ChartWidget.h"
 #include "recording/RecordingLoader.h"
+#include "trend/AlarmMarks.h"
+#include "trend/HoverReadout.h"
+#include "trend/TrendCursors.h"
 #include "trend/TrendView.h"
 #include "trend/widgets/MultiScaleStrip.h"
+#include "trend/widgets/SideGridView.h"
 #include "trend/widgets/TrendIcons.h"
 #include "trend/widgets/TrendMouseBand.h"
 #include "trend/widgets/TrendTexts.h"
+#include "trend/widgets/frmAlarmSymbolSetting.h"
 #include "trend/widgets/frmMultiScaleSet.h"
 #include "trend/widgets/frmTimeAxisSetting.h"
 #include "trend/widgets/frmXlblSet.h"
@@ -27,8 +32,11 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QStyle>
+#include <QTimer>
 #include <QToolBar>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace {
@@ -39,7 +47,8 @@ constexpr int kChartPointSize = 9;
 } // namespace
 
 frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
-    : QWidget(parent), viewNumber_(viewNumber), trend_(std::make_unique<TrendView>(viewNumber)) {
+    : QWidget(parent), viewNumber_(viewNumber), trend_(std::make_unique<TrendView>(viewNumber)),
+      cursors_(std::make_unique<TrendCursors>(*trend_)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
     setFont(QFont(LanguageFont(), kChartPointSize));
@@ -92,7 +101,16 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
     barsLayout->addStretch(1);
     layout->addWidget(bars);
     layout->addWidget(lblTitle_);
-    layout->addWidget(plotArea_, 1);
+    // The cursor readout stands beside the chart; the user may narrow it.
+    auto* split = new QSplitter(Qt::Horizontal, this);
+    split->addWidget(plotArea_);
+    sideGrid_ = new SideGridView(cursors_->sideGrid(), split);
+    split->addWidget(sideGrid_);
+    split->setStretchFactor(0, 1);
+    split->setStretchFactor(1, 0);
+    split->setSizes({760, 240});
+    layout->addWidget(split, 1);
+    buildCursorParts();
 
     setHooks();
     // Whatever changes the chart (a dialog of another window too) brings the controls along.
@@ -104,6 +122,8 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
 frmScrollTime::~frmScrollTime() {
     // The logic may outlive no window: its hooks point into this one.
     trend_->window() = TrendWindowState();
+    // The side grid shows the cursors' grid, which goes before the child widgets would.
+    delete sideGrid_;
 }
 
 QAction* frmScrollTime::makeCommand(int number, const QString& text) {
@@ -134,15 +154,30 @@ void frmScrollTime::buildToolbars() {
     Toolbar2_->addAction(makeCommand(12, TrendCaption(MsgId(602), "Time axis settings")));
     Toolbar2_->addAction(makeCommand(13, TrendCaption(MsgId(603), "Time axis labels")));
     Toolbar2_->addAction(makeCommand(11, TrendCaption(MsgId(601), "Y axis settings")));
+    Toolbar2_->addSeparator();
+    for (int number : {6, 7}) {
+        QAction* cursor = makeCommand(number, MsgText(number == 6 ? 8 : 9));
+        cursor->setCheckable(true);
+        Toolbar2_->addAction(cursor);
+    }
 
     popup_ = new QMenu(this);
     popup_->setObjectName(QStringLiteral("PopupMenu"));
-    for (int number : {1, 2, 0, 12, 13, 11}) {
+    for (int number : {1, 2, 0, 6, 7, 0, 12, 13, 11}) {
         if (number == 0)
             popup_->addSeparator();
         else
             popup_->addAction(commands_[size_t(number)]);
     }
+    popup_->addSeparator();
+    alarmMarks_ = popup_->addAction(MsgText(228));
+    alarmMarks_->setCheckable(true);
+    connect(alarmMarks_, &QAction::toggled, this, &frmScrollTime::setAlarmMarksShown);
+    popup_->addAction(MsgText(228) + QStringLiteral("..."), this, [this] {
+        frmAlarmSymbolSetting dialog(*trend_, this);
+        dialog.exec();
+        setAlarmMarksShown(AlarmMarks::ShowAlarmMarks(viewNumber_));
+    });
 }
 
 void frmScrollTime::buildMenus(QMenuBar* bar) {
@@ -179,7 +214,10 @@ void frmScrollTime::setHooks() {
     w.beep = [] { QApplication::beep(); };
     // The cursor side panels, the title's rotation and the legend marks have no window parts
     // of their own here: the chart draws the title and legend from its model.
-    w.sidePanels = [] {};
+    w.sidePanels = [this] {
+        cursors_->refreshSidePanels();
+        sideGrid_->refresh();
+    };
     w.titleRolaction = [] {};
     w.legendMarks = [] {};
 }
@@ -211,6 +249,12 @@ bool frmScrollTime::LoadRecording() {
     }
     if (!outcome.ok()) return false;
     const bool shown = trend_->afterLoad(&progress);
+    if (shown) {
+        cursors_->afterLoad();
+        AlarmMarks(*trend_).afterLoad();
+        alarmMarks_->setChecked(false);
+        sideGrid_->refresh();
+    }
     trend_->window().Caption = shown ? view.ViewTitle : QString();
     syncControls();
     Form_Resize();
@@ -218,11 +262,17 @@ bool frmScrollTime::LoadRecording() {
 }
 
 void frmScrollTime::command(int number) {
-    if (!trend_->window().Toolbar2Enabled[size_t(qBound(0, number, 22))]) return;
-    if (number == 11 || number == 12 || number == 13)
+    const bool cursor = number == 6 || number == 7;
+    if (cursor ? !views(viewNumber_).Loaded
+               : !trend_->window().Toolbar2Enabled[size_t(qBound(0, number, 22))])
+        return;
+    if (number == 6 || number == 7)
+        cursors_->command(number);
+    else if (number == 11 || number == 12 || number == 13)
         commandAfterDialog(number);
     else
         trend_->command(number);
+    followYRange();
     syncControls();
 }
 
@@ -284,7 +334,11 @@ void frmScrollTime::drawStrips() {
 void frmScrollTime::syncControls() {
     const TrendWindowState& w = trend_->window();
     for (size_t n = 0; n < commands_.size(); ++n)
-        if (commands_[n]) commands_[n]->setEnabled(w.Toolbar2Enabled[n]);
+        if (commands_[n])
+            commands_[n]->setEnabled(n == 6 || n == 7 ? views(viewNumber_).Loaded
+                                                      : w.Toolbar2Enabled[n]);
+    commands_[6]->setChecked(trend_->state().CursorAOn);
+    commands_[7]->setChecked(trend_->state().CursorBOn);
     const ScrollBarState& bar = w.hsbTrendGraph;
     syncing_ = true;
     hsbTrendGraph_->setRange(bar.Min, std::max(bar.Min, bar.Max));
@@ -370,4 +424,57 @@ void frmScrollTime::dropEvent(QDropEvent* event) {
 
 QString frmScrollTime::titleText() const {
     return lblTitle_->text();
+}
+
+// Cursor placing, the tracking line, the hover text (Timer1) and the alarm marks.
+void frmScrollTime::buildCursorParts() {
+    Timer1_ = new QTimer(this);
+    Timer1_->setSingleShot(true);
+    Timer1_->setInterval(600);
+    connect(Timer1_, &QTimer::timeout, this, &frmScrollTime::showHoverText);
+    connect(chart_, &ChartWidget::mouseMoved, this,
+            [this](Qt::MouseButtons, const QPointF& pixel) { chartMouseMoved(pixel); });
+    connect(chart_, &ChartWidget::mousePressed, this,
+            [this](Qt::MouseButton button) { chartClicked(button); });
+    connect(band_, &TrendMouseBand::zoomed, this, &frmScrollTime::followYRange);
+}
+
+void frmScrollTime::chartMouseMoved(const QPointF& pixel) {
+    QToolTip::hideText();
+    Timer1_->start();
+    if (cursors_->mouseMove(chart_->chartGeometry(), pixel)) {
+        const TrackingMarker& m = cursors_->marker();
+        chart_->setCursorLines({{m.x, m.color, m.width}});
+    } else if (!cursors_->marker().tracking) {
+        chart_->setCursorLines({});
+    }
+}
+
+void frmScrollTime::chartClicked(Qt::MouseButton button) {
+    if (button != Qt::LeftButton || cursors_->activeCursor() == 0) return;
+    if (cursors_->click(chart_->chartGeometry())) sideGrid_->refresh();
+}
+
+void frmScrollTime::showHoverText() {
+    const QPoint local = chart_->mapFromGlobal(QCursor::pos());
+    if (!chart_->rect().contains(local)) return;
+    const auto hover =
+        HoverReadout::at(*trend_, chart_->chartGeometry(), QPointF(local), band_->active());
+    if (hover && !hover->text.isEmpty()) QToolTip::showText(QCursor::pos(), hover->text, chart_);
+}
+
+// The cursor lines reach over the whole Y range after a zoom.
+void frmScrollTime::followYRange() {
+    if (followingY_) return;
+    followingY_ = true;
+    cursors_->followYRange();
+    followingY_ = false;
+}
+
+void frmScrollTime::setAlarmMarksShown(bool on) {
+    AlarmMarks::ShowAlarmMarks(viewNumber_) = on;
+    AlarmMarks marks(*trend_);
+    marks.clear();
+    if (on) marks.draw();
+    if (alarmMarks_->isChecked() != on) alarmMarks_->setChecked(on);
 }

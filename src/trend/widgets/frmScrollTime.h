@@ -14,7 +14,10 @@ class QLabel;
 class QMenu;
 class QMenuBar;
 class QScrollBar;
+class QTimer;
 class QToolBar;
+class SideGridView;
+class TrendCursors;
 class TrendMouseBand;
 class TrendView;
 
@@ -30,6 +33,8 @@ public:
 
     int GetGroup() const { return viewNumber_; }
     TrendView& trend() { return *trend_; }
+    TrendCursors& cursors() { return *cursors_; }
+    SideGridView* sideGrid() const { return sideGrid_; }
 
     // Reads the view's files into its store with a progress window, then shows the trend.
     // Failures show their message. False when no recording stands in the view afterwards.
@@ -77,9 +82,20 @@ private:
     void syncControls();
     void scrolled(int value);
     void commandAfterDialog(int number);
+    void buildCursorParts();
+    void chartMouseMoved(const QPointF& pixel);
+    void chartClicked(Qt::MouseButton button);
+    void showHoverText();
+    void followYRange();
+    void setAlarmMarksShown(bool on);
 
     int viewNumber_;
     std::unique_ptr<TrendView> trend_;
+    std::unique_ptr<TrendCursors> cursors_;
+    SideGridView* sideGrid_ = nullptr;
+    QTimer* Timer1_ = nullptr;
+    QAction* alarmMarks_ = nullptr;
+    bool followingY_ = false;
     ChartWidget* chart_ = nullptr;
     QWidget* plotArea_ = nullptr;
     QLabel* lblTitle_ = nullptr;
