@@ -13,7 +13,8 @@ function(recview_test name dir)
     cmake_parse_arguments(ARG "" "" "DEPS" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${dir}/*.cpp)
     add_executable(${name} ${sources})
-    target_link_libraries(${name} PRIVATE recview_test_support ${ARG_DEPS} GTest::gtest GTest::gmock)
+    # The dependencies come first, so that a window test takes its own main().
+    target_link_libraries(${name} PRIVATE ${ARG_DEPS} recview_test_support GTest::gtest GTest::gmock)
     # Files shipped beside the program are looked for beside the test program too.
     add_custom_command(TARGET ${name} POST_BUILD
         COMMAND ${CMAKE_COMMAND} -E copy_if_different ${PROJECT_SOURCE_DIR}/data/langVX.txt

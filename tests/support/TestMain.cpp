@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
+#include "app/AppPaths.h"
+
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
@@ -12,6 +14,9 @@ int main(int argc, char** argv) {
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
+    // Work folders below the private data folder, so that nothing lands in the working directory.
+    setWorkPaths(userDataFolder(), 0);
+    createWorkDirectories();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
