@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class QSocketNotifier;
+class QLocalServer;
 
 // Tells the first instance of the program from a later one over a per-user local socket: a
 // process that can connect to the socket is a later instance; otherwise a stale socket (left
@@ -20,7 +20,7 @@ public:
     // True when another instance answers; otherwise this process becomes the listening one
     // (for as long as this object lives).
     bool anotherInstanceRunning();
-    bool listening() const { return listenFd_ >= 0; }
+    bool listening() const;
 
     // "recview-<user>.sock" in the user's runtime folder (or the temporary folder).
     static QString defaultSocketPath();
@@ -28,9 +28,7 @@ public:
 private:
     bool connectToRunning() const;
     bool listen();
-    void acceptPending();
 
     QString path_;
-    int listenFd_ = -1;
-    std::unique_ptr<QSocketNotifier> notifier_;
+    std::unique_ptr<QLocalServer> server_;
 };
