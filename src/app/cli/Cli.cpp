@@ -14,6 +14,9 @@ const char* const kUsage =
     "  recview info FILE...              short summary of a recording\n"
     "  recview dump --json [--gs] [--rows A:B] FILE...\n"
     "                                    the recording as the reader stores it, as JSON\n"
+    "  recview render [--gs] FILE... -o OUT.png|OUT.pdf [--size WxH]\n"
+    "                 [--from \"YYYY-MM-DD hh:mm:ss\"] [--to \"YYYY-MM-DD hh:mm:ss\"]\n"
+    "                                    the trend chart of the recording as an image\n"
     "  recview --version | --help\n";
 
 } // namespace
