@@ -236,6 +236,9 @@ std::vector<MultiScaleStripWidget*> frmScrollTime::strips() const {
 
 bool frmScrollTime::LoadRecording() {
     ViewTables& view = views(viewNumber_);
+    // The channel series read the store's cells: they go before the reader empties the store,
+    // since the window may repaint while the load lets events through.
+    trend_->chart().setSeriesCount(0);
     frmProgress progress(this);
     progress.show();
     LoadOptions options;
@@ -407,6 +410,7 @@ bool frmScrollTime::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmScrollTime::closeEvent(QCloseEvent* event) {
+    trend_->chart().setSeriesCount(0); // the view's store is emptied once the slot is free
     Q_EMIT viewClosed(viewNumber_);
     QWidget::closeEvent(event);
 }
