@@ -3,6 +3,7 @@
 #include "app/cli/Cli.h"
 #include "app/widgets/DesktopStartup.h"
 #include "app/widgets/frmMessageBox.h"
+#include "savedwork/SavedTrendSettings.h"
 
 #include <QApplication>
 #include <QDir>
@@ -35,6 +36,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     MessageBoxSink boxes;
     setMessageSink(&boxes);
+    installSavedTrendSettings();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
     setMessageSink(nullptr);

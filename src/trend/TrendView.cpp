@@ -14,9 +14,10 @@ TrendView::~TrendView() = default;
 
 namespace {
 
-// The saved trend settings of a view are read here once the records exist; until then a view
-// starts from its channels.
-void readSavedTrendSettings(TrendViewState& /*state*/) {}
+TrendView::SavedSettingsReader& savedSettingsReader() {
+    static TrendView::SavedSettingsReader reader;
+    return reader;
+}
 
 // Rows 1..128 of the multi-scale table from the line scales, all four strips flagged.
 void copyScalesToMultiScale(TrendViewState& st) {
@@ -42,6 +43,10 @@ void multiScaleToChannels(TrendViewState& st, ChannelTable& ch) {
 
 } // namespace
 
+void TrendView::setSavedSettingsReader(SavedSettingsReader reader) {
+    savedSettingsReader() = std::move(reader);
+}
+
 bool TrendView::afterLoad(Progress* progress) {
     ViewTables& t = tables();
     TrendViewState& st = state();
@@ -49,7 +54,8 @@ bool TrendView::afterLoad(Progress* progress) {
     st.ScrollScale = qint16(t.PointCount < 32768 ? t.PointCount : 32767);
     window_.TooLarge = false;
     plot_.initLines();
-    readSavedTrendSettings(st);
+    st.SavedMultiScale = st.SavedScaleTable = false;
+    if (savedSettingsReader()) savedSettingsReader()(view_);
     const bool savedTable = st.SavedScaleTable && st.MultiScaleFlag != 0;
     if (!st.SavedMultiScale && !savedTable) {
         st.ScalePercentMode = false;

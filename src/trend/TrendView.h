@@ -71,6 +71,11 @@ public:
     // Returns false for a command this logic does not handle.
     bool command(int number);
 
+    // Reads the saved trend settings of a view into its trend state; the records are kept by a
+    // library above this one, which installs its reader at start.
+    using SavedSettingsReader = std::function<void(int viewNumber)>;
+    static void setSavedSettingsReader(SavedSettingsReader reader);
+
     // Calls a window hook if the window set one.
     static void call(const std::function<void()>& hook) {
         if (hook) hook();

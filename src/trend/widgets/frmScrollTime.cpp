@@ -6,6 +6,7 @@
 #include "platform/ChartGeometry.h"
 #include "platform/widgets/ChartWidget.h"
 #include "recording/RecordingLoader.h"
+#include "savedwork/BackupRecords.h"
 #include "trend/AlarmMarks.h"
 #include "trend/HoverReadout.h"
 #include "trend/TrendCursors.h"
@@ -385,6 +386,7 @@ void frmScrollTime::showMultiScaleSet() {
     frmMultiScaleSet dialog(*trend_, this);
     dialog.fillEmptyScales();
     if (dialog.exec() != QDialog::Accepted) return;
+    WriteMultiScaleBak(viewNumber_); // read again when files are next read into this view
     // The strips read percents of each channel's scale: the series follow into percent mode.
     TrendViewState& st = trend_->state();
     if (!st.ScalePercentMode) {
