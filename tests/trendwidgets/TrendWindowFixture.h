@@ -8,6 +8,7 @@
 #include "support/RecordingMessageSink.h"
 #include "support/VxfWriter.h"
 #include "trend/TrendView.h"
+#include "trend/TrendCursors.h"
 #include "trend/widgets/frmScrollTime.h"
 
 #include <QApplication>

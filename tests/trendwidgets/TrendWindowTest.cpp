@@ -163,3 +163,29 @@ TEST(frmScrollTime, ScrollBarMovesTheRange) {
     EXPECT_NEAR(w.xMax(), 599, 2);
     EXPECT_EQ(w.trend().state().ZoomLevel, 1);
 }
+
+// Cursor A from the tool bar: a click on the plot places it on the nearest point, the side
+// grid shows its time and values, and the band zoom stays off while a cursor button is on.
+TEST(frmScrollTime, CursorButtonPlacesCursorAByAClick) {
+    RecordingMessageSink sink;
+    trendwidgets::LoadedWindow w(8);
+    ASSERT_TRUE(w.loaded);
+    w.window->command(6);
+    EXPECT_TRUE(w.trend().state().CursorAOn);
+    EXPECT_TRUE(w.window->toolbar2Action(6)->isChecked());
+    const QRectF plot = w.plot();
+    const QPointF at(plot.left() + plot.width() / 2, plot.center().y());
+    const double xMin = w.xMin(), xMax = w.xMax();
+    w.mouse(QEvent::MouseMove, Qt::NoButton, at);
+    w.mouse(QEvent::MouseButtonPress, Qt::LeftButton, at);
+    w.mouse(QEvent::MouseButtonRelease, Qt::LeftButton, at);
+    const qint32 point = w.trend().state().CursorPoint[0];
+    EXPECT_NEAR(point, 300, 3); // the middle of 600 points
+    EXPECT_EQ(w.xMin(), xMin);  // no band zoom while the cursor is on
+    EXPECT_EQ(w.xMax(), xMax);
+    const ReadoutGrid& grid = w.window->cursors().sideGrid().grid();
+    bool anyValue = false;
+    for (int row = 1; row <= grid.rowCount(); ++row)
+        anyValue = anyValue || !grid.text(row, 1).isEmpty();
+    EXPECT_TRUE(anyValue);
+}
