@@ -56,8 +56,8 @@ nlohmann::json cellsJson(const ViewTables& v, int firstRow, int lastRow) {
     return rows;
 }
 
-bool parseRows(const QString& spec, int& a, int& b) {
-    const QStringList parts = spec.split(QLatin1Char(':'));
+bool parseRows(const QString& range, int& a, int& b) {
+    const QStringList parts = range.split(QLatin1Char(':'));
     bool okA = false, okB = false;
     if (parts.size() != 2) return false;
     a = parts[0].toInt(&okA);
