@@ -103,6 +103,11 @@ void CoreReader::run() {
 
 } // namespace
 
+QString LoadOutcome::text() const {
+    if (message == 0) return QString();
+    return detail.isEmpty() ? MsgText(message) : MsgText(message) + QLatin1Char('\n') + detail;
+}
+
 void copySelectionToView(ViewTables& view) {
     const SelectionLists& sel = selection();
     view.FileCount = sel.SelFileCount;

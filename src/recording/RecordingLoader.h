@@ -11,9 +11,11 @@
 struct LoadOutcome {
     enum class Status { Loaded, Empty, Failed, Cancelled, NotHandled };
     Status status = Status::Loaded;
-    int message = 0;   // 560, 587 (with detail), 578 for an empty recording
-    QString detail;    // "CHCount = " n behind message 587
+    int message = 0; // 560, 587 (with detail), 578 for an empty recording
+    QString detail;  // "CHCount = " n behind message 587
     bool ok() const { return status == Status::Loaded; }
+    // The message as the user reads it: its text, and the detail on a line of its own.
+    QString text() const;
 };
 
 struct LoadOptions {

@@ -29,6 +29,14 @@ public:
         for (const double v : values) f64(v);
     }
 
+    // A field by its type, so that one list of fields serves writing and reading.
+    void field(qint16 value) { i16(value); }
+    void field(qint32 value) { i32(value); }
+    void field(double value) { f64(value); }
+    template <typename T, size_t N> void field(const std::array<T, N>& values) {
+        for (const T& v : values) field(v);
+    }
+
     const QByteArray& bytes() const { return bytes_; }
 
 private:
@@ -57,6 +65,13 @@ public:
     }
     template <size_t N> void f64s(std::array<double, N>& values) {
         for (double& v : values) v = f64();
+    }
+
+    void field(qint16& value) { value = i16(); }
+    void field(qint32& value) { value = i32(); }
+    void field(double& value) { value = f64(); }
+    template <typename T, size_t N> void field(std::array<T, N>& values) {
+        for (T& v : values) field(v);
     }
 
 private:

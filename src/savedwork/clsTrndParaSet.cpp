@@ -4,48 +4,40 @@
 
 namespace {
 
-void writeFixed(RecordWriter& w, const TrndParaFixed& f) {
-    w.i32(f.PointCount);
-    w.i32s(f.MarkerCalcValue);
-    w.i32s(f.CursorPoint);
-    w.i16(f.MarkerAutoCalc);
-    w.i16s(f.CalcLineChannel);
-    w.i16(f.ChannelCount);
-    w.i16(f.ChannelCountOrig);
-    w.i32(f.SampleInterval);
-    w.f64(f.ViewStart);
-    w.i16(f.ViewStartMsec);
-    w.i32s(f.TimeLabelInterval);
-    w.i16(f.ViewInUse);
-    w.i16(f.BarPlacement);
-    w.i16(f.ChartMouseFlag);
-    w.i16(f.AxisLabelsOn);
-    w.i16(f.MarkerViewFlag);
-    w.i32(f.BarPosition);
-    w.i32(f.ViewShownPoints);
-    w.i32s(f.TimeAxisChoice);
+// The layout of the record, stated once for writing (const record) and reading.
+template <typename IO, typename Fixed> void fixedFields(IO& io, Fixed& f) {
+    io.field(f.PointCount);
+    io.field(f.MarkerCalcValue);
+    io.field(f.CursorPoint);
+    io.field(f.MarkerAutoCalc);
+    io.field(f.CalcLineChannel);
+    io.field(f.ChannelCount);
+    io.field(f.ChannelCountOrig);
+    io.field(f.SampleInterval);
+    io.field(f.ViewStart);
+    io.field(f.ViewStartMsec);
+    io.field(f.TimeLabelInterval);
+    io.field(f.ViewInUse);
+    io.field(f.BarPlacement);
+    io.field(f.ChartMouseFlag);
+    io.field(f.AxisLabelsOn);
+    io.field(f.MarkerViewFlag);
+    io.field(f.BarPosition);
+    io.field(f.ViewShownPoints);
+    io.field(f.TimeAxisChoice);
 }
 
-void readFixed(RecordReader& r, TrndParaFixed& f) {
-    f.PointCount = r.i32();
-    r.i32s(f.MarkerCalcValue);
-    r.i32s(f.CursorPoint);
-    f.MarkerAutoCalc = r.i16();
-    r.i16s(f.CalcLineChannel);
-    f.ChannelCount = r.i16();
-    f.ChannelCountOrig = r.i16();
-    f.SampleInterval = r.i32();
-    f.ViewStart = r.f64();
-    f.ViewStartMsec = r.i16();
-    r.i32s(f.TimeLabelInterval);
-    f.ViewInUse = r.i16();
-    f.BarPlacement = r.i16();
-    f.ChartMouseFlag = r.i16();
-    f.AxisLabelsOn = r.i16();
-    f.MarkerViewFlag = r.i16();
-    f.BarPosition = r.i32();
-    f.ViewShownPoints = r.i32();
-    r.i32s(f.TimeAxisChoice);
+template <bool kHasEnabled, typename IO, typename Record> void recordFields(IO& io, Record& r) {
+    fixedFields(io, r.Fixed);
+    if constexpr (kHasEnabled) io.field(r.Enabled);
+    io.field(r.SourceColumn);
+    io.field(r.AddFlag);
+    io.field(r.SecondColumn);
+    io.field(r.Constant);
+    io.field(r.ScaleLow);
+    io.field(r.ScaleHigh);
+    io.field(r.Decimals);
+    io.field(r.ViewTail);
 }
 
 template <size_t N, typename T>
@@ -57,32 +49,14 @@ void copyHead(std::array<T, N>& to, const std::array<T, 129>& from) {
 
 template <int N, bool kHasEnabled> QByteArray TrndParaSetRecord<N, kHasEnabled>::toBytes() const {
     RecordWriter w;
-    writeFixed(w, Fixed);
-    if constexpr (kHasEnabled) w.i32s(Enabled);
-    w.i16s(SourceColumn);
-    w.i16s(AddFlag);
-    w.i16s(SecondColumn);
-    w.f64s(Constant);
-    w.f64s(ScaleLow);
-    w.f64s(ScaleHigh);
-    w.i16s(Decimals);
-    w.i16s(ViewTail);
+    recordFields<kHasEnabled>(w, *this);
     return w.bytes();
 }
 
 template <int N, bool kHasEnabled>
 void TrndParaSetRecord<N, kHasEnabled>::fromBytes(const QByteArray& bytes) {
     RecordReader r(bytes);
-    readFixed(r, Fixed);
-    if constexpr (kHasEnabled) r.i32s(Enabled);
-    r.i16s(SourceColumn);
-    r.i16s(AddFlag);
-    r.i16s(SecondColumn);
-    r.f64s(Constant);
-    r.f64s(ScaleLow);
-    r.f64s(ScaleHigh);
-    r.i16s(Decimals);
-    r.i16s(ViewTail);
+    recordFields<kHasEnabled>(r, *this);
 }
 
 template struct TrndParaSetRecord<129, false>;

@@ -43,6 +43,16 @@ void multiScaleToChannels(TrendViewState& st, ChannelTable& ch) {
 
 } // namespace
 
+void TrendView::showMultiScaleStrips() {
+    TrendViewState& st = state();
+    if (st.ScalePercentMode) return;
+    st.ScalePercentMode = true;
+    plot_.ScaleCalculateSet();
+    st.ZoomY[0] = {0, 0, 100};
+    st.ZoomLevel = 0;
+    zoom_.SetZoom(0);
+}
+
 void TrendView::setSavedSettingsReader(SavedSettingsReader reader) {
     savedSettingsReader() = std::move(reader);
 }

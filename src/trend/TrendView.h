@@ -67,6 +67,10 @@ public:
     // recording on show. False when the view refused the recording.
     bool afterLoad(Progress* progress = nullptr);
 
+    // After the multi-scale rows were set: the strips read percents of each channel's scale, so
+    // the series follow into percent mode, shown whole on Y 0..100.
+    void showMultiScaleStrips();
+
     // Toolbar2 and popup commands of the chart (1, 2, 12, 13 here; others to their owners).
     // Returns false for a command this logic does not handle.
     bool command(int number);

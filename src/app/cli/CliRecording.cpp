@@ -59,11 +59,8 @@ ViewTables* openRecording(const RecordingArgs& args) {
         err << "recview: " << args.files.value(0) << ": a saved trend archive, not a recording\n";
         return nullptr;
     }
-    if (outcome.message != 0) { // a failure, or a warning of a load that went on
-        err << messageText(outcome.message);
-        if (!outcome.detail.isEmpty()) err << "\n" << outcome.detail;
-        err << "\n";
-    }
+    // A failure, or a warning of a load that went on.
+    if (outcome.message != 0) err << outcome.text() << "\n";
     if (!outcome.ok()) return nullptr;
     return &view;
 }

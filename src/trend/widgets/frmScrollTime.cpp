@@ -246,11 +246,7 @@ bool frmScrollTime::LoadRecording() {
     options.progress = &progress;
     options.confirmCancel = [] { return ShowMsg(1, MsgText(574)) == kYes; };
     const LoadOutcome outcome = ::LoadRecording(view, options);
-    if (outcome.message != 0) {
-        QString text = MsgText(outcome.message);
-        if (!outcome.detail.isEmpty()) text += QLatin1Char('\n') + outcome.detail;
-        ShowMsg(outcome.ok() ? 4 : 2, text);
-    }
+    if (outcome.message != 0) ShowMsg(outcome.ok() ? 4 : 2, outcome.text());
     if (!outcome.ok()) return false;
     const bool shown = trend_->afterLoad(&progress);
     if (shown) {
@@ -387,15 +383,7 @@ void frmScrollTime::showMultiScaleSet() {
     dialog.fillEmptyScales();
     if (dialog.exec() != QDialog::Accepted) return;
     WriteMultiScaleBak(viewNumber_); // read again when files are next read into this view
-    // The strips read percents of each channel's scale: the series follow into percent mode.
-    TrendViewState& st = trend_->state();
-    if (!st.ScalePercentMode) {
-        st.ScalePercentMode = true;
-        trend_->plot().ScaleCalculateSet();
-        st.ZoomY[0] = {0, 0, 100};
-        st.ZoomLevel = 0;
-        trend_->zoom().SetZoom(0);
-    }
+    trend_->showMultiScaleStrips();
     syncControls();
     stripPlotHeight_ = -1;
     Form_Resize();
