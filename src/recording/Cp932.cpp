@@ -15,11 +15,6 @@ bool isAscii(const char* bytes, qsizetype length) {
 // iconv descriptors are not thread-safe; conversions of non-ASCII text are rare and short.
 std::mutex gMutex;
 
-iconv_t descriptor(const char* to, const char* from) {
-    iconv_t cd = iconv_open(to, from);
-    return cd;
-}
-
 } // namespace
 
 namespace Cp932 {
@@ -27,7 +22,7 @@ namespace Cp932 {
 QString decode(const char* bytes, qsizetype length) {
     if (isAscii(bytes, length)) return QString::fromLatin1(bytes, length);
     std::lock_guard lock(gMutex);
-    static iconv_t cd = descriptor("UTF-16LE", "CP932");
+    static iconv_t cd = iconv_open("UTF-16LE", "CP932");
     if (cd == iconv_t(-1)) return QString::fromLatin1(bytes, length);
     iconv(cd, nullptr, nullptr, nullptr, nullptr);
     QString out(length, Qt::Uninitialized);
@@ -52,7 +47,7 @@ QString decode(const char* bytes, qsizetype length) {
 QByteArray encode(const QString& text, qsizetype maxBytes) {
     QByteArray out;
     std::lock_guard lock(gMutex);
-    static iconv_t cd = descriptor("CP932", "UTF-16LE");
+    static iconv_t cd = iconv_open("CP932", "UTF-16LE");
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool pair = text.at(i).isHighSurrogate() && i + 1 < text.size();
         char buf[8];

@@ -11,37 +11,40 @@ namespace {
 const VxfLayout kNarrow{44, 88, 792, 1188, 1892, 1980, 2048};
 const VxfLayout kWide{56, 100, 996, 1500, 2396, 2508, 2576};
 
-bool startsWithAny(const QByteArray& magic, std::initializer_list<const char*> heads) {
-    for (const char* h : heads)
-        if (magic.startsWith(h)) return true;
-    return false;
-}
-
 int digitsValue(const QString& text, bool& ok) {
     ok = !text.isEmpty();
     int value = 0;
     for (QChar c : text) {
-        if (!c.isDigit()) ok = false;
-        else value = value * 10 + c.digitValue();
+        if (!c.isDigit())
+            ok = false;
+        else
+            value = value * 10 + c.digitValue();
     }
     return value;
 }
 
 } // namespace
 
+bool magicStartsWith(const QByteArray& magic, std::initializer_list<const char*> heads) {
+    for (const char* h : heads)
+        if (magic.startsWith(h)) return true;
+    return false;
+}
+
 int formatOfMagic(const QByteArray& magic, bool gsMode) {
     if (magic == "TM00" || magic == "TM01") return Format::TM6;
     if (magic == "TM10" || magic == "TM11") return Format::TM12;
     if (magic == "QD30" || magic == "QD31" || magic == "QD10") return Format::QDF;
-    if (gsMode) return startsWithAny(magic, {"PA4", "PB4", "PC4", "PD4"}) ? Format::NP : Format::VXF;
+    if (gsMode)
+        return magicStartsWith(magic, {"PA4", "PB4", "PC4", "PD4"}) ? Format::NP : Format::VXF;
     return magic.startsWith("NP5") ? Format::NP : Format::VXF;
 }
 
 VxfHead VxfHead::read(const FileBytes& b) {
     VxfHead h;
     h.magic = b.magic();
-    const bool wide = startsWithAny(h.magic, {"VX3", "W3N"});
-    h.knownMagic = wide || startsWithAny(h.magic, {"VX1", "VX2", "W2N"});
+    const bool wide = magicStartsWith(h.magic, {"VX3", "W3N"});
+    h.knownMagic = wide || magicStartsWith(h.magic, {"VX1", "VX2", "W2N"});
     h.layout = wide ? &kWide : &kNarrow;
     h.DataOffset = b.ReadU32Le(4);
     h.ChannelCount = b.ReadU32Le(8);
@@ -56,7 +59,9 @@ VxfHead VxfHead::read(const FileBytes& b) {
     return h;
 }
 
-qint64 VxfHead::alarmCounterOffset() const { return magic.startsWith("W2N") ? 2000 : 2528; }
+qint64 VxfHead::alarmCounterOffset() const {
+    return magic.startsWith("W2N") ? 2000 : 2528;
+}
 
 int QdfHead::channelCount() const {
     int n = 0;
@@ -118,7 +123,9 @@ NpHead NpHead::read(const FileBytes& b) {
     h.DataOffsetAlt = b.ReadU32Be(2220);
     h.Version = b.ReadU16Be(2226);
     h.DataOffsetRel = b.ReadU16Be(2236);
-    h.dataStart = h.Version == 1 ? 6000 : h.Version == 3 ? qint64(h.DataOffsetRel) + 2240 : h.DataOffsetAlt;
+    h.dataStart = h.Version == 1   ? 6000
+                  : h.Version == 3 ? qint64(h.DataOffsetRel) + 2240
+                                   : h.DataOffsetAlt;
     if (h.Version < 3) {
         h.ChannelCount = h.RowPayload / 4;
         const qint64 rows = (b.size() - h.dataStart) / (qint64(h.RowPayload) + 4);
@@ -146,7 +153,8 @@ HeadInfo scanJlmHead(const FileBytes& b) {
     HeadInfo info;
     info.channels = h.channels;
     info.start = h.keyTime(b, 0);
-    if (b.has(h.dataStart() + h.rowBytes(), 6)) info.interval = qint32((h.keyTime(b, 1) - info.start) * 1000);
+    if (b.has(h.dataStart() + h.rowBytes(), 6))
+        info.interval = qint32((h.keyTime(b, 1) - info.start) * 1000);
     info.points = (b.size() - h.dataStart()) / h.rowBytes();
     return info;
 }

@@ -4,10 +4,15 @@
 
 #include <QByteArray>
 #include <QVector>
+
 #include <QtGlobal>
+#include <initializer_list>
 
 // The one place that knows where each recorder family keeps the fields of its head. The short
 // header scan of the selection and the full readers both read through these.
+
+// Whether a magic begins with one of the given heads (three letters, or all four bytes).
+bool magicStartsWith(const QByteArray& magic, std::initializer_list<const char*> heads);
 
 // Format of the core reader for a file's magic (VXF 0, QDF 2, NP 3, TM 6 or 12).
 int formatOfMagic(const QByteArray& magic, bool gsMode);
@@ -66,7 +71,9 @@ struct TmHead {
 
     static TmHead read(const FileBytes& bytes, int format);
     qint64 dataStart() const { return format == 12 ? 4360 : 4000; }
-    int columns() const { return PairFlag == '1' ? 2 * int(ChannelList.size()) : int(ChannelList.size()); }
+    int columns() const {
+        return PairFlag == '1' ? 2 * int(ChannelList.size()) : int(ChannelList.size());
+    }
     qint64 start() const;
     qint32 intervalMs() const;
 };

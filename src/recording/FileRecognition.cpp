@@ -7,31 +7,28 @@
 
 namespace {
 
+// The magic test of a family on the first four bytes of a file.
 bool magicMatches(const QByteArray& m, int family) {
-    const auto any3 = [&](std::initializer_list<const char*> heads) {
-        for (const char* h : heads)
-            if (m.startsWith(h)) return true;
-        return false;
-    };
-    const auto any4 = [&](std::initializer_list<const char*> all) {
-        for (const char* a : all)
-            if (m == a) return true;
-        return false;
-    };
     switch (family) {
-    case Family::VXF: return any3({"VX2", "VX3", "W3N", "W2N"});
-    case Family::QDF: return any4({"QD30", "QD31", "QD10"});
-    case Family::TM: return any4({"TM00", "TM01", "TM10", "TM11"});
-    case Family::N5F: return any3({"NP5"});
-    case Family::P4F: return any3({"PA4", "PB4", "PC4", "PD4"});
-    case Family::MSG: return any4({"TM0M", "TM1M"});
-    default: return true;
+    case Family::VXF:
+        return magicStartsWith(m, {"VX2", "VX3", "W3N", "W2N"});
+    case Family::QDF:
+        return magicStartsWith(m, {"QD30", "QD31", "QD10"});
+    case Family::TM:
+        return magicStartsWith(m, {"TM00", "TM01", "TM10", "TM11"});
+    case Family::N5F:
+        return magicStartsWith(m, {"NP5"});
+    case Family::P4F:
+        return magicStartsWith(m, {"PA4", "PB4", "PC4", "PD4"});
+    case Family::MSG:
+        return magicStartsWith(m, {"TM0M", "TM1M"});
+    default:
+        return true;
     }
 }
 
 // Maps a file for the scan: only the pages that the fields touch are read.
-template <typename Scan>
-bool withMappedFile(const QString& path, Scan scan) {
+template <typename Scan> bool withMappedFile(const QString& path, Scan scan) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() == 0) return false;
     const uchar* data = file.map(0, file.size());
