@@ -17,6 +17,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList readLines(const QString& path) {
@@ -28,56 +30,42 @@ QStringList readLines(const QString& path) {
 class StartupTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        loadEnglishMessages(tables.path(),
-                            {{204, QStringLiteral("Group")}, {268, QStringLiteral("Viewer")}});
-        setAppPath(0, program.path() + QLatin1Char('/'));
-        setAppPath(3, work.path() + QLatin1Char('/'));
-        setAppPath(4, work.path() + QLatin1Char('/'));
+        loadEnglishMessages(tables.path(), {{204, u"Group"_s}, {268, u"Viewer"_s}});
+        setAppPath(0, program.path() + u'/');
+        setAppPath(3, work.path() + u'/');
+        setAppPath(4, work.path() + u'/');
     }
-    void writeWork(const char* name, const QByteArray& bytes) {
-        ASSERT_TRUE(
-            TextFile::writeAtomically(work.path() + QLatin1Char('/') + QLatin1String(name), bytes));
+    QString at(const QString& name) const { return work.path() + u'/' + name; }
+    void writeWork(const QString& name, const QByteArray& bytes) {
+        ASSERT_TRUE(TextFile::writeAtomically(at(name), bytes));
     }
     QTemporaryDir tables, program, work;
 };
 
-TEST_F(StartupTest, TrailingSlashIsAddedOnce) {
-    EXPECT_EQ(withTrailingSlash(QStringLiteral("/")), QLatin1String("/"));
-    EXPECT_EQ(withTrailingSlash(QStringLiteral("/opt/recview")), QLatin1String("/opt/recview/"));
-    EXPECT_EQ(withTrailingSlash(QStringLiteral("/opt/recview/")), QLatin1String("/opt/recview/"));
-    EXPECT_TRUE(programDirectory().endsWith(QLatin1Char('/')));
-}
-
-TEST_F(StartupTest, WorkDirectoriesAreMadeBelowTheDataFolder) {
-    const QString data = work.path() + QStringLiteral("/data");
+TEST_F(StartupTest, PathsGetOneTrailingSlashAndWorkDirectoriesBelowTheDataFolder) {
+    for (const QString& path : {u"/opt/recview"_s, u"/opt/recview/"_s})
+        EXPECT_EQ(withTrailingSlash(path), u"/opt/recview/"_s);
+    EXPECT_EQ(withTrailingSlash(u"/"_s), u"/"_s);
+    const QString data = work.path() + u"/data"_s;
     setWorkPaths(data, 0);
-    EXPECT_EQ(AppPaths(1), data + QStringLiteral("/analysis/TrndSet/"));
-    EXPECT_EQ(AppPaths(4), data + QStringLiteral("/analysis/"));
+    EXPECT_EQ(AppPaths(1), data + u"/analysis/TrndSet/"_s);
+    EXPECT_EQ(AppPaths(4), data + u"/analysis/"_s);
     ASSERT_TRUE(createWorkDirectories());
     for (int i = 1; i <= 4; ++i) EXPECT_TRUE(DirExists(AppPaths(i))) << i;
     setWorkPaths(data, 4);
-    EXPECT_EQ(AppPaths(3), data + QStringLiteral("/ZUW/analysis/WK/"));
-    EXPECT_TRUE(DirExists(data + QStringLiteral("/ZUW")));
+    EXPECT_EQ(AppPaths(3), data + u"/ZUW/analysis/WK/"_s);
     EXPECT_EQ(AppPaths(5), QString());
 }
 
 TEST_F(StartupTest, FileAndDirectoryTests) {
-    writeWork("f.txt", "x");
-    const QString file = work.path() + QStringLiteral("/f.txt");
+    writeWork(u"f.txt"_s, "x");
     const struct {
         QString path;
-        bool file;
-        bool dir;
-    } cases[] = {
-        {QString(), false, false},
-        {file, true, false},
-        {file + QLatin1Char('/'), true, false},
-        {work.path() + QStringLiteral("/f.*"), false, false},
-        {work.path() + QStringLiteral("/f?txt"), false, false},
-        {work.path(), false, true},
-        {QStringLiteral("/"), false, true},
-        {work.path() + QStringLiteral("/none"), false, false},
-    };
+        bool file, dir;
+    } cases[] = {{QString(), false, false},      {at(u"f.txt"_s), true, false},
+                 {at(u"f.txt/"_s), true, false}, {at(u"f.*"_s), false, false},
+                 {at(u"f?txt"_s), false, false}, {work.path(), false, true},
+                 {u"/"_s, false, true},          {at(u"none"_s), false, false}};
     for (const auto& c : cases) {
         EXPECT_EQ(FileExists(c.path), c.file) << c.path.toStdString();
         EXPECT_EQ(DirExists(c.path), c.dir) << c.path.toStdString();
@@ -99,30 +87,27 @@ TEST_F(StartupTest, FirstFreeViewIsTheSmallestFreeNumber) {
 
 TEST_F(StartupTest, GroupNamesDefaultForMissingOrEmptyFile) {
     LoadGroupNames();
-    const QStringList expected = {QStringLiteral("Group1"), QStringLiteral("Group2"),
-                                  QStringLiteral("Group3"), QStringLiteral("Group4"),
-                                  QStringLiteral("Group5"), QStringLiteral("Group6"),
-                                  QStringLiteral("Group7"), QStringLiteral("Group8"),
-                                  QStringLiteral("Group9"), QStringLiteral("Group10")};
-    EXPECT_EQ(readLines(work.path() + QStringLiteral("/GName.ini")), expected);
-    EXPECT_EQ(GroupNames(10), QLatin1String("Group10"));
+    QStringList defaults;
+    for (int n = 1; n <= 10; ++n) defaults << u"Group"_s + QString::number(n);
+    EXPECT_EQ(readLines(at(u"GName.ini"_s)), defaults);
+    EXPECT_EQ(GroupNames(10), u"Group10"_s);
 
-    writeWork("GName.ini", "");
-    setGroupName(1, QStringLiteral("changed"));
+    writeWork(u"GName.ini"_s, "");
+    setGroupName(1, u"changed"_s);
     LoadGroupNames();
-    EXPECT_EQ(GroupNames(1), QLatin1String("Group1"));
+    EXPECT_EQ(GroupNames(1), u"Group1"_s);
 
-    writeWork("GName.ini", "  Boiler A \r\nLine 2\n\n4\n5\n6\n7\n8\n9\n10\neleven\n");
+    writeWork(u"GName.ini"_s, "  Boiler A \r\nLine 2\n\n4\n5\n6\n7\n8\n9\n10\neleven\n");
     LoadGroupNames();
-    EXPECT_EQ(GroupNames(1), QLatin1String("Boiler A"));
+    EXPECT_EQ(GroupNames(1), u"Boiler A"_s);
     EXPECT_EQ(GroupNames(3), QString());
-    EXPECT_EQ(GroupNames(10), QLatin1String("10"));
+    EXPECT_EQ(GroupNames(10), u"10"_s);
     EXPECT_EQ(GroupNames(11), QString());
 }
 
-TEST_F(StartupTest, ShowPointsStopAtTheFirstBadLine) {
+TEST_F(StartupTest, ShowPointsStopAtTheFirstBadLineOrTheEleventh) {
     LoadShowPoints(); // no file: nothing changes, nothing fails
-    writeWork("ShowPoints.ini", "1, 2\n 30 ,40\nx,5\n7,8\n");
+    writeWork(u"ShowPoints.ini"_s, "1, 2\n 30 ,40\nx,5\n7,8\n");
     LoadShowPoints();
     EXPECT_EQ(ShowPointsA(0), 1);
     EXPECT_EQ(ShowPointsB(1), 40);
@@ -131,8 +116,8 @@ TEST_F(StartupTest, ShowPointsStopAtTheFirstBadLine) {
 
     QByteArray eleven;
     for (int n = 1; n <= 11; ++n)
-        eleven += QByteArray::number(n) + "," + QByteArray::number(-n) + "\n";
-    writeWork("ShowPoints.ini", eleven);
+        eleven += QByteArray::number(n) + ',' + QByteArray::number(-n) + '\n';
+    writeWork(u"ShowPoints.ini"_s, eleven);
     LoadShowPoints();
     EXPECT_EQ(ShowPointsA(9), 10);
     EXPECT_EQ(ShowPointsB(9), -10);
@@ -141,56 +126,50 @@ TEST_F(StartupTest, ShowPointsStopAtTheFirstBadLine) {
 
 TEST_F(StartupTest, LastDirectoryIsTheLastNonEmptyLine) {
     EXPECT_EQ(ReadLastDirectory(), AppPaths(0));
-    writeWork("DPASS.ini", "");
+    writeWork(u"DPASS.ini"_s, "");
     EXPECT_EQ(ReadLastDirectory(), AppPaths(0));
-    writeWork("DPASS.ini", "/old\n  /data/run 2  \n   \n\n");
-    EXPECT_EQ(ReadLastDirectory(), QLatin1String("/data/run 2"));
-    SaveLastDirectory(QStringLiteral("/new/place"));
-    EXPECT_EQ(readLines(work.path() + QStringLiteral("/DPASS.ini")),
-              QStringList{QStringLiteral("/new/place")});
-    EXPECT_EQ(ReadLastDirectory(), QLatin1String("/new/place"));
+    writeWork(u"DPASS.ini"_s, "/old\n  /data/run 2  \n   \n\n");
+    EXPECT_EQ(ReadLastDirectory(), u"/data/run 2"_s);
+    SaveLastDirectory(u"/new/place"_s);
+    EXPECT_EQ(readLines(at(u"DPASS.ini"_s)), QStringList{u"/new/place"_s});
 }
 
 TEST_F(StartupTest, GSModeIsChosenByTheFileAlone) {
+    const QString file = AppPaths(0) + u"GSmode.ini"_s;
     EXPECT_EQ(selectOperationMode(), 0);
     EXPECT_EQ(GSMode().GSTitleSuffix, QString());
 
-    ASSERT_TRUE(TextFile::writeAtomically(AppPaths(0) + QStringLiteral("GSmode.ini"),
-                                          "[frmMain]\nTitle=\"ja\"#\" en\ttitle \"#ko\n"));
+    ASSERT_TRUE(TextFile::writeAtomically(file, "[frmMain]\nTitle=\"ja\"#\" en\ttitle \"#ko\n"));
     EXPECT_EQ(selectOperationMode(), 34);
     EXPECT_EQ(clsCommon::shared().OperationMode(), 34);
-    EXPECT_EQ(GSMode().GSTitleSuffix, QLatin1String(" MOVRA for GS"));
-    EXPECT_EQ(GSMode().GSMainTitle, QLatin1String("en\ntitle"));
-    EXPECT_EQ(mainWindowTitle(QStringLiteral("normal")), QLatin1String("en\ntitle"));
+    EXPECT_EQ(GSMode().GSTitleSuffix, u" MOVRA for GS"_s);
+    EXPECT_EQ(mainWindowTitle(u"normal"_s), u"en\ntitle"_s);
 
     // An empty file selects GS mode too; the missing title is reported once.
     RecordingMessageSink sink;
-    ASSERT_TRUE(TextFile::writeAtomically(AppPaths(0) + QStringLiteral("GSmode.ini"), ""));
+    ASSERT_TRUE(TextFile::writeAtomically(file, ""));
     EXPECT_EQ(selectOperationMode(), 34);
     ASSERT_EQ(sink.calls().size(), 1);
     EXPECT_EQ(sink.last().flags, 48);
-    EXPECT_EQ(sink.last().title, QLatin1String("gblnGetINI"));
-    EXPECT_TRUE(
-        sink.last().text.startsWith(QStringLiteral("INIファイルが正しく設定されていません。\n")));
-    EXPECT_TRUE(sink.last().text.endsWith(QStringLiteral("  キー名　　　　: Title\n[gblnGetINI]")));
-    QFile::remove(AppPaths(0) + QStringLiteral("GSmode.ini"));
+    EXPECT_EQ(sink.last().title, u"gblnGetINI"_s);
+    EXPECT_TRUE(sink.last().text.startsWith(u"INIファイルが正しく設定されていません。\n"_s));
+    EXPECT_TRUE(sink.last().text.endsWith(u"  キー名　　　　: Title\n[gblnGetINI]"_s));
+    QFile::remove(file);
     selectOperationMode();
 }
 
 TEST_F(StartupTest, BothWaysOfReadingTheTitleFileAgree) {
     GSMode().GSModePath = AppPaths(0);
-    ASSERT_TRUE(TextFile::writeAtomically(AppPaths(0) + QStringLiteral("GSmode.ini"),
-                                          "; [frmMain]\n[Other]\nTitle=no\n[FRMMAIN]\n"
-                                          "Caption=x\ntitle = a#b ; note\n"));
+    ASSERT_TRUE(TextFile::writeAtomically(
+        AppPaths(0) + u"GSmode.ini"_s,
+        "; [frmMain]\n[Other]\nTitle=no\n[FRMMAIN]\nCaption=x\ntitle = a#b ; note\n"));
     RecordingMessageSink sink;
     for (const bool whole : {false, true}) {
         clsLibrary::gblnGetINIReadsWholeFile() = whole;
         QString value;
-        EXPECT_TRUE(
-            clsLibrary::gblnGetINI(QStringLiteral("frmMain"), QStringLiteral("Title"), value));
-        EXPECT_TRUE(value.startsWith(QLatin1String("a#b"))) << whole;
-        EXPECT_FALSE(
-            clsLibrary::gblnGetINI(QStringLiteral("frmMain"), QStringLiteral("Missing"), value));
+        EXPECT_TRUE(clsLibrary::gblnGetINI(u"frmMain"_s, u"Title"_s, value));
+        EXPECT_TRUE(value.startsWith(u"a#b"_s)) << whole;
+        EXPECT_FALSE(clsLibrary::gblnGetINI(u"frmMain"_s, u"Missing"_s, value));
     }
     clsLibrary::gblnGetINIReadsWholeFile() = false;
     EXPECT_EQ(sink.calls().size(), 2);
@@ -200,63 +179,54 @@ TEST_F(StartupTest, BothWaysOfReadingTheTitleFileAgree) {
 class RecordingHost final : public StartupHost {
 public:
     bool second = false;
-    QString command;
+    QString command, clickFile;
     int files = 0;
     QStringList steps;
-    QString clickFile;
 
     bool anotherInstanceRunning() override {
-        steps << QStringLiteral("instance?");
+        steps << u"instance?"_s;
         return second;
     }
     QString commandLine() override { return command; }
     int ParseCommandFiles(const QString&) override {
-        steps << (FileExists(clickFile) ? QStringLiteral("parse with stale file")
-                                        : QStringLiteral("parse"));
+        steps << (FileExists(clickFile) ? u"parse with stale file"_s : u"parse"_s);
         return files;
     }
-    void WriteClickFile() override { steps << QStringLiteral("write click file"); }
-    void showTrMdiForm() override { steps << QStringLiteral("TrMdiForm"); }
+    void WriteClickFile() override { steps << u"write click file"_s; }
+    void showTrMdiForm() override { steps << u"TrMdiForm"_s; }
     void setHelpFile(const QString& path) override {
-        steps << QStringLiteral("help ") + QFileInfo(path).fileName();
+        steps << u"help "_s + QFileInfo(path).fileName();
     }
-    void setPrintDefaults() override { steps << QStringLiteral("print defaults"); }
+    void setPrintDefaults() override { steps << u"print defaults"_s; }
     void showFrmMain() override {
-        steps << (FileExists(AppPaths(3) + QStringLiteral("GName.ini"))
-                      ? QStringLiteral("frmMain")
-                      : QStringLiteral("frmMain without group names"));
+        steps << (FileExists(AppPaths(3) + u"GName.ini"_s) ? u"frmMain"_s
+                                                           : u"frmMain without group names"_s);
     }
 };
 
 TEST_F(StartupTest, FirstInstanceTakesTheStepsInOrder) {
     RecordingHost host;
-    host.command = QStringLiteral("/data/a.vxf");
-    host.clickFile = userDataFolder() + QStringLiteral("/analysis/D_Click.ini");
-    QDir().mkpath(userDataFolder() + QStringLiteral("/analysis"));
+    host.command = u"/data/a.vxf"_s;
+    host.clickFile = userDataFolder() + u"/analysis/D_Click.ini"_s;
+    QDir().mkpath(userDataFolder() + u"/analysis"_s);
     ASSERT_TRUE(TextFile::writeAtomically(host.clickFile, "[stale]\n"));
     EXPECT_EQ(SubMain(host), StartResult::Started);
-    EXPECT_EQ(host.steps, (QStringList{QStringLiteral("instance?"), QStringLiteral("TrMdiForm"),
-                                       QStringLiteral("help DataAnalysis.chm"),
-                                       QStringLiteral("print defaults"), QStringLiteral("parse"),
-                                       QStringLiteral("frmMain")}));
+    EXPECT_EQ(host.steps, (QStringList{u"instance?"_s, u"TrMdiForm"_s, u"help DataAnalysis.chm"_s,
+                                       u"print defaults"_s, u"parse"_s, u"frmMain"_s}));
     EXPECT_TRUE(AppStarted());
     for (int i = 1; i <= 4; ++i) EXPECT_TRUE(DirExists(AppPaths(i))) << i;
     EXPECT_TRUE(AppPaths(4).startsWith(userDataFolder()));
 }
 
 TEST_F(StartupTest, SecondInstanceHandsOverOnlyFilesItFound) {
+    const QStringList parsed{u"instance?"_s, u"parse"_s};
     const struct {
         const char* command;
         int files;
         QStringList steps;
-    } cases[] = {
-        {"", 3, {QStringLiteral("instance?")}},
-        {"/data/a.vxf", 0, {QStringLiteral("instance?"), QStringLiteral("parse")}},
-        {"/data/a.vxf",
-         1,
-         {QStringLiteral("instance?"), QStringLiteral("parse"),
-          QStringLiteral("write click file")}},
-    };
+    } cases[] = {{"", 3, {u"instance?"_s}}, // no arguments: ends silently
+                 {"/data/a.vxf", 0, parsed},
+                 {"/data/a.vxf", 1, parsed + QStringList{u"write click file"_s}}};
     // The second process's own slots are empty even when the first has ten views open.
     clearViewSlots();
     for (const auto& c : cases) {
