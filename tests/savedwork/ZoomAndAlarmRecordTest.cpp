@@ -1,6 +1,7 @@
 #include "RecordTestSupport.h"
 
 #include "app/AppPaths.h"
+#include "recording/ViewTables.h"
 #include "savedwork/RecordNames.h"
 #include "savedwork/SavedWorkRecords.h"
 #include "trend/TrendViewState.h"
@@ -13,7 +14,6 @@ namespace {
 
 void fillZoom(TrendViewState& t) {
     t.ZoomLevel = 100;
-    t.PointScale = 1;
     t.BarPosition = std::numeric_limits<qint32>::max();
     t.CursorAOn = true;
     t.ScalePercentMode = true;
@@ -32,28 +32,17 @@ void fillZoom(TrendViewState& t) {
 
 using ZoomAndAlarmRecordTest = RecordDirs;
 
-TEST_F(ZoomAndAlarmRecordTest, ZoomStackStandsInRowsOfLevels) {
-    fillZoom(trendState(kView));
-    ASSERT_TRUE(WriteSaveParaData(kView));
-    const QByteArray b = readAll(AppPaths(1) + RecordNames::SaveParaData);
-    ASSERT_EQ(b.size(), 3732);
-    EXPECT_EQ(le(b, 0, 2), 100);
-    EXPECT_EQ(le(b, 2, 2), kView);
-    for (const int level : {0, 7, 100}) {
-        SCOPED_TRACE(level);
-        for (int slot = 0; slot < 3; ++slot) {
-            EXPECT_EQ(le(b, 16 + 4 * (slot * 101 + level), 4),
-                      trendState(kView).ZoomX[size_t(level)][size_t(slot)]);
-            EXPECT_EQ(f64(b, 1228 + 8 * (slot * 101 + level)),
-                      trendState(kView).ZoomY[size_t(level)][size_t(slot)]);
-        }
-    }
-}
-
-TEST_F(ZoomAndAlarmRecordTest, ZoomStackAndScrollBarsRoundTrip) {
+TEST_F(ZoomAndAlarmRecordTest, ZoomStackStandsInRowsOfLevelsAndRoundTrips) {
     fillZoom(trendState(kView));
     const TrendViewState before = trendState(kView);
     ASSERT_TRUE(WriteSaveParaData(kView));
+    const QByteArray b = readAll(AppPaths(1) + RecordNames::SaveParaData);
+    ASSERT_EQ(b.size(), 3732);
+    EXPECT_EQ(le(b, 2, 2), kView);
+    EXPECT_EQ(le(b, 16 + 4 * 7, 4), -7);                        // ZoomX slot 0, level 7
+    EXPECT_EQ(le(b, 16 + 4 * (101 + 7), 4), 7000);              // ZoomX slot 1, level 7
+    EXPECT_EQ(f64(b, 1228 + 8 * 101), -1.7976931348623157e308); // ZoomY slot 1, level 0
+
     carryOver(RecordNames::SaveParaData);
     trendState(kView).reset();
     ASSERT_TRUE(ReadSaveParaData(kView));
@@ -91,7 +80,6 @@ TEST_F(ZoomAndAlarmRecordTest, AlarmStylesAreThreeWholeArraysOfSlotBlocks) {
     ASSERT_EQ(b.size(), 17856);
     EXPECT_EQ(le(b, 0, 2), -32768);
     EXPECT_EQ(le(b, 2 * (5 * 372 + 371), 2), 32767);
-    EXPECT_EQ(le(b, 2 * (1 * 372 + 0), 2), 2);  // default symbol of slot 2
     EXPECT_EQ(le(b, 2 * (5 * 372 + 0), 2), 10); // default symbol of slot 6
     EXPECT_EQ(quint32(le(b, 4464 + 4 * (2 * 372 + 10), 4)), 0xFFFFFFFFu);
     EXPECT_EQ(le(b, 4464 + 4 * (2 * 372 + 11), 4), 0x0000FF); // default red
@@ -110,10 +98,15 @@ TEST_F(ZoomAndAlarmRecordTest, AlarmStylesAreThreeWholeArraysOfSlotBlocks) {
 TEST_F(ZoomAndAlarmRecordTest, MissingRecordsLeaveTheViewAsItWas) {
     fillZoom(trendState(kView));
     trendState(kView).AlarmSize[0][0] = 7;
+    trendState(kView).Lines[1].scaleLow = QStringLiteral("-5");
+    views(kView).Channels.setTag(1, QStringLiteral("kept"));
     const TrendViewState before = trendState(kView);
     EXPECT_FALSE(ReadSaveParaData(kView));
     EXPECT_FALSE(ReadAlmStyle(kView));
     EXPECT_FALSE(ReadTrndParaSet(kView));
+    EXPECT_FALSE(ReadFileHeader(kView));
     EXPECT_EQ(trendState(kView).ZoomX, before.ZoomX);
     EXPECT_EQ(trendState(kView).AlarmSize, before.AlarmSize);
+    EXPECT_EQ(trendState(kView).Lines, before.Lines);
+    EXPECT_EQ(views(kView).Channels.ChTag[1], QStringLiteral("kept"));
 }
