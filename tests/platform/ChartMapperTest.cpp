@@ -7,16 +7,12 @@ namespace {
 // A plot of 100 x 50 pixels at (10, 20): x pixels 10..110, y pixels 20 (top) .. 70 (bottom).
 const QRectF kPlot(10, 20, 100, 50);
 
-struct Case {
-    const char* name;
-    AxisRange x;
-    AxisRange y;
-    QPointF data;
-    QPointF pixel;
-};
-
 TEST(ChartMapper, DataToPixelAndBack) {
-    const Case cases[] = {
+    const struct {
+        const char* name;
+        AxisRange x, y;
+        QPointF data, pixel;
+    } cases[] = {
         {"linear", {0, 10}, {0, 100}, {5, 25}, {60, 57.5}},
         {"linear at the corners", {0, 10}, {0, 100}, {0, 100}, {10, 20}},
         {"negative range", {-10, 10}, {-50, 50}, {-10, 0}, {10, 45}},
@@ -26,7 +22,7 @@ TEST(ChartMapper, DataToPixelAndBack) {
         {"logarithmic reversed y", {0, 10}, {1, 100, true, true}, {10, 10}, {110, 45}},
         {"beyond the range", {0, 10}, {0, 100}, {20, -100}, {210, 120}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const ChartMapper m(kPlot, c.x, c.y);
         const QPointF pixel = m.dataToPixel(c.data.x(), c.data.y());
@@ -38,16 +34,12 @@ TEST(ChartMapper, DataToPixelAndBack) {
     }
 }
 
-TEST(ChartMapper, LogarithmicAxisPutsValuesAtOrBelowZeroOffTheBottom) {
-    const ChartMapper m(kPlot, {0, 10}, {1, 100, false, true});
-    EXPECT_GT(m.yToPixel(0), 1e3);
-    EXPECT_GT(m.yToPixel(-5), 1e3);
-}
-
-TEST(ChartMapper, EmptySpanMapsToTheMiddle) {
-    const ChartMapper m(kPlot, {5, 5}, {3, 3});
-    EXPECT_DOUBLE_EQ(m.xToPixel(5), 60);
-    EXPECT_DOUBLE_EQ(m.yToPixel(3), 45);
+TEST(ChartMapper, LogOfZeroIsOffTheBottomAndAnEmptySpanMapsToTheMiddle) {
+    const ChartMapper log(kPlot, {0, 10}, {1, 100, false, true});
+    EXPECT_GT(log.yToPixel(0), 1e3);
+    EXPECT_GT(log.yToPixel(-5), 1e3);
+    const ChartMapper empty(kPlot, {5, 5}, {3, 3});
+    EXPECT_EQ(empty.dataToPixel(5, 3), QPointF(60, 45));
 }
 
 } // namespace

@@ -69,26 +69,21 @@ TEST(ChartRenderer, LineBreaksAtHolesAndAxisIsLabelled) {
 TEST(ChartRenderer, ManyPointsAreDrawnAsColumnsWithGaps) {
     std::vector<quint16> raw(200000);
     for (size_t i = 0; i < raw.size(); ++i) raw[i] = i % 2 ? 2 : 8;
-    for (size_t i = 80000; i < 120000; ++i) raw[i] = 0; // holes
+    std::fill(raw.begin() + 80000, raw.begin() + 120000, 0); // holes
     ChartModel model;
     model.setSeriesCount(1);
     model.setSeriesSource(1, std::make_unique<LookupSource>(std::move(raw)));
     redLine(model);
     const QImage image = ChartRenderer::renderImage(model, kSize);
     const ChartGeometry geometry(model, QSizeF(kSize));
+    auto redAt = [&](double x, double y) {
+        return isRed(image.pixel(geometry.dataToPixel(x, y).toPoint()));
+    };
     for (double x : {20000.0, 60000.0, 150000.0}) {
-        SCOPED_TRACE(x);
-        EXPECT_TRUE(isRed(image.pixel(geometry.dataToPixel(x, 5).toPoint())));
-        EXPECT_FALSE(isRed(image.pixel(geometry.dataToPixel(x, 9).toPoint())));
+        EXPECT_TRUE(redAt(x, 5)) << x;
+        EXPECT_FALSE(redAt(x, 9)) << x;
     }
-    EXPECT_FALSE(isRed(image.pixel(geometry.dataToPixel(100000, 5).toPoint())));
-    // Zoomed in to a few points per pixel the raw line is drawn, still with its gap.
-    model.axisX().setMin(79000);
-    model.axisX().setMax(81000);
-    const QImage zoomed = ChartRenderer::renderImage(model, kSize);
-    const ChartGeometry z(model, QSizeF(kSize));
-    EXPECT_TRUE(isRed(zoomed.pixel(z.dataToPixel(79500, 5).toPoint())));
-    EXPECT_FALSE(isRed(zoomed.pixel(z.dataToPixel(80500, 5).toPoint())));
+    EXPECT_FALSE(redAt(100000, 5));
 }
 
 TEST(ChartGeometry, RegionsAndNearestPoint) {

@@ -6,27 +6,25 @@
 #include <QtGlobal>
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
-// A channel as the trend logic keeps it: 16-bit raw values read through a lookup; raw 0 is a
-// hole.
+// A channel as the trend logic keeps it: 16-bit raw values, raw 0 is a hole.
 class LookupSource : public SeriesSource {
 public:
-    explicit LookupSource(std::vector<quint16> raw, double scale = 1.0) : raw_(std::move(raw)) {
-        table_[0] = Chart::kHoleValue;
-        for (size_t i = 1; i < table_.size(); ++i) table_[i] = double(i) * scale;
-    }
+    explicit LookupSource(std::vector<quint16> raw, double scale = 1.0)
+        : raw_(std::move(raw)), scale_(scale) {}
     qsizetype count() const override { return qsizetype(raw_.size()); }
     void values(qsizetype first, qsizetype n, double* out) const override {
-        const quint16* raw = raw_.data() + first;
-        for (qsizetype i = 0; i < n; ++i) out[i] = table_[raw[i]];
+        for (qsizetype i = 0; i < n; ++i) {
+            const quint16 raw = raw_[size_t(first + i)];
+            out[i] = raw ? raw * scale_ : Chart::kHoleValue;
+        }
     }
     std::vector<quint16>& raw() { return raw_; }
 
 private:
     std::vector<quint16> raw_;
-    std::array<double, 65536> table_;
+    double scale_;
 };
 
 // Values kept as doubles, for comparing against brute force.

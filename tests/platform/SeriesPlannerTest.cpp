@@ -31,14 +31,14 @@ TEST(SeriesPlanner, SymbolsWithoutLineAndPerPointStyles) {
     series.setStoredValues({1, 2, H, 3});
     series.style.pattern = Chart::LinePattern::None;
     series.style.symbol = Chart::SymbolShape::Box;
-    series.setPointStyle(1, {Chart::SymbolShape::Diamond, 9, Qt::red});
-    series.setPointStyle(2, {Chart::SymbolShape::Diamond, 9, Qt::red}); // a hole: not drawn
+    for (int p : {1, 2}) series.setPointStyle(p, {Chart::SymbolShape::Diamond, 9, Qt::red});
     const RenderPlan::Series plan = SeriesPlanner::plan(series, mapper(3));
     EXPECT_TRUE(plan.polylines.empty());
     ASSERT_EQ(plan.symbols.size(), 3u);
-    int diamonds = 0;
-    for (const auto& symbol : plan.symbols) diamonds += symbol.shape == Chart::SymbolShape::Diamond;
-    EXPECT_EQ(diamonds, 1);
+    // Point 2 is a hole: its style draws nothing.
+    EXPECT_EQ(std::count_if(plan.symbols.begin(), plan.symbols.end(),
+                            [](const auto& s) { return s.shape == Chart::SymbolShape::Diamond; }),
+              1);
     series.displayState = Chart::kDisplayHidden;
     EXPECT_TRUE(SeriesPlanner::plan(series, mapper(3)).symbols.empty());
 }
@@ -65,9 +65,8 @@ TEST(SeriesPlanner, ManyPointsBecomeOneColumnPerPixel) {
 }
 
 TEST(SeriesPlanner, OnlyPointsInTheXRangeAreRead) {
-    std::vector<double> y(1000, 5.0);
     ChartSeries series;
-    series.setStoredValues(y);
+    series.setStoredValues(std::vector<double>(1000, 5.0));
     const ChartMapper zoomed(QRectF(0, 0, 100, 100), {100, 150}, {0, 10});
     const RenderPlan::Series plan = SeriesPlanner::plan(series, zoomed);
     ASSERT_EQ(plan.polylines.size(), 1u);
