@@ -1,62 +1,53 @@
 #include "TrendFixture.h"
-#include "trend/TrendView.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace trendtest;
 
 namespace {
 
+using Labels = std::vector<std::pair<double, QString>>;
+
 // A percent-mode view of channels on 0..1000 with no decimals, label interval 10 %.
-struct PercentView {
-    explicit PercentView(int channels = 2) : view(prepared(channels)) {
-        EXPECT_TRUE(view.afterLoad());
+struct PercentView : LoadedView {
+    explicit PercentView(int channels = 2)
+        : LoadedView(9, Columns(size_t(channels), {0, 500, 1000}), 0, QStringLiteral("0"),
+                     QStringLiteral("1000")) {
         view.state().ScalePercentMode = true;
         view.plot().CH_DataSet();
         view.chart().axisY().setLabelInterval(10);
     }
-    static int prepared(int channels) {
-        makeView(9, std::vector<std::vector<qint16>>(size_t(channels), {0, 500, 1000}), 0,
-                 QStringLiteral("0"), QStringLiteral("1000"));
-        return 9;
-    }
-    std::vector<std::pair<double, QString>> labels(Chart::Axis axis = Chart::Axis::Y) {
-        std::vector<std::pair<double, QString>> out;
+    Labels labels(Chart::Axis axis = Chart::Axis::Y) {
+        Labels out;
         for (const ValueLabel& l : view.chart().axis(axis).valueLabels().items())
             out.emplace_back(l.value, l.text);
         return out;
     }
-    TrendView view;
 };
-
-using Labels = std::vector<std::pair<double, QString>>;
 
 } // namespace
 
-// Labels stand at round engineering values of the bound channel, placed by their percent.
-TEST(YAxisSet, LabelsAtEngineeringValues) {
+// Labels stand at round engineering values of the bound channel, placed by their percent;
+// zoomed to 40..60 %, they start at the engineering value of the axis's Min.
+TEST(YAxisSet, LabelsAtEngineeringValuesAlsoZoomed) {
     PercentView p;
     p.view.scales().Y_AxisSet(false, 1, 1);
     Labels expected;
     for (int i = 0; i <= 10; ++i) expected.emplace_back(i * 10.0, QString::number(i * 100));
     EXPECT_EQ(p.labels(), expected);
     EXPECT_EQ(p.view.chart().axisY().title(), QStringLiteral("CH1\n[degC]"));
-    EXPECT_EQ(p.view.chart().axisY().labelMethod(), Chart::LabelMethod::ValueLabels);
-}
 
-// Zoomed to 40..60 %, the labels start at the engineering value of the axis's Min.
-TEST(YAxisSet, ZoomedRangeLabelsOnlyWhatIsShown) {
-    PercentView p;
     p.view.scales().setYRange(40, 60);
     p.view.scales().Y_AxisSet(true, 1, 1);
     EXPECT_EQ(p.labels(), (Labels{{40, "400"}, {50, "500"}, {60, "600"}}));
 }
 
 // Grid marks have no text; a label at the same place replaces its mark. An exponent channel
-// writes exponent texts.
-TEST(YAxisSet, GridMarksAndExponentTexts) {
+// writes exponent texts. A step of 0 leaves no ticks; a falling scale labels at most once.
+TEST(YAxisSet, GridMarksExponentsAndDegenerateSteps) {
     PercentView p;
     p.view.chart().axisY().setSubGridInterval(5);
     p.view.chart().axisY().setLabelInterval(50);
@@ -70,21 +61,15 @@ TEST(YAxisSet, GridMarksAndExponentTexts) {
     l.scaleKind = 2;
     l.decimals = 1;
     p.view.scales().Y_AxisSet(false, 2, 2);
-    bool sawExponent = false;
-    for (const auto& [value, text] : p.labels(Chart::Axis::Y2))
-        if (value == 50) sawExponent = text == QStringLiteral("5.0E+2");
-    EXPECT_TRUE(sawExponent);
-}
+    const Labels y2 = p.labels(Chart::Axis::Y2);
+    EXPECT_EQ(std::count(y2.begin(), y2.end(), Labels::value_type{50, "5.0E+2"}), 1);
 
-// A step of 0 leaves the axis without ticks; a falling scale labels at most once.
-TEST(YAxisSet, NoStepOrFallingScale) {
-    PercentView p;
+    p.view.chart().axisY().setSubGridInterval(0);
     p.view.chart().axisY().setLabelInterval(0);
     p.view.scales().Y_AxisSet(false, 1, 1);
     EXPECT_TRUE(p.labels().empty());
     p.view.chart().axisY().setLabelInterval(10);
-    p.view.state().Lines[1].scaleLow = QStringLiteral("1000");
-    p.view.state().Lines[1].scaleHigh = QStringLiteral("0");
+    std::swap(p.view.state().Lines[1].scaleLow, p.view.state().Lines[1].scaleHigh);
     p.view.scales().Y_AxisSet(false, 1, 1);
     EXPECT_LE(p.labels().size(), 1u);
 }
@@ -93,15 +78,12 @@ TEST(YAxisSet, NoStepOrFallingScale) {
 TEST(YAxisModeChange, AxisChannels) {
     PercentView p(1);
     TrendViewState& st = p.view.state();
-    EXPECT_EQ(st.AxisChannel[0], 1);
     EXPECT_EQ(st.AxisChannel[1], 1) << "Y2 with one channel is channel 1";
     st.AxisChannel = {5, 0};
     p.view.scales().Y_Axis_Mode_change(true, 3);
-    EXPECT_EQ(st.AxisChannel[0], 1);
-    EXPECT_EQ(st.AxisChannel[1], 2);
+    EXPECT_EQ(st.AxisChannel, (decltype(st.AxisChannel){1, 2}));
     p.view.scales().Y_Axis_Mode_change(false, 3);
     EXPECT_FALSE(p.view.chart().axisY2().isShown());
-    EXPECT_TRUE(p.view.chart().axisY().isShown());
 }
 
 // Multi-scale: with no row flagged the first four channels stand on the strips, titles give way
@@ -114,10 +96,8 @@ TEST(MultiScale, StripsTakeFirstFourAndFollowZoom) {
     ASSERT_EQ(p.view.scales().strips().size(), 4u);
     EXPECT_EQ(p.view.scales().strips()[3].row, 4);
     EXPECT_EQ(p.view.chart().chartAreaMargins().left(), 4 * TrendScaleAxes::kStripWidth);
-    EXPECT_FALSE(p.view.window().Toolbar2Enabled[11]);
     p.view.scales().Y_AxisSet(false, 1, 1);
-    EXPECT_EQ(p.view.chart().axisY().title(), QStringLiteral(" "));
-
+    EXPECT_EQ(p.view.chart().axisY().title(), QStringLiteral(" ")) << "titles give way";
     st.MultiScaleShown.fill(false);
     st.MultiScaleShown[5] = true;
     p.view.scales().MultiScaleDisp(false);
@@ -125,13 +105,12 @@ TEST(MultiScale, StripsTakeFirstFourAndFollowZoom) {
     EXPECT_EQ(p.view.scales().strips()[0].row, 6);
 
     const auto ticks = TrendScaleAxes::stripTicks(0, 1000, 40, 60, false, 200);
-    ASSERT_FALSE(ticks.empty());
     QStringList texts;
     for (const auto& t : ticks) {
-        EXPECT_GE(t.y, -0.001);
-        EXPECT_LE(t.y, 200.001);
+        EXPECT_TRUE(t.y >= -0.001 && t.y <= 200.001) << t.y;
         if (!t.text.isEmpty()) texts << t.text;
     }
+    ASSERT_FALSE(texts.isEmpty());
     EXPECT_EQ(texts.first(), QStringLiteral("400")) << "bottom of the slice";
     EXPECT_EQ(texts.last(), QStringLiteral("600"));
     EXPECT_NEAR(ticks.front().y, 200, 1e-9);

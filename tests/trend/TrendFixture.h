@@ -3,15 +3,19 @@
 #include "platform/ChartTypes.h"
 #include "recording/CellFormat.h"
 #include "recording/ViewTables.h"
+#include "trend/TrendView.h"
 #include "trend/TrendViewState.h"
 
 #include <QString>
+
+#include <gtest/gtest.h>
 
 #include <vector>
 
 namespace trendtest {
 
 constexpr double H = Chart::kHoleValue;
+using Columns = std::vector<std::vector<qint16>>;
 
 // Raw 16-bit cells of plain channels with status words.
 constexpr qint16 kBurn = 32766;
@@ -29,8 +33,8 @@ inline void writeRaw(clsStorage& storage, int channel, int firstRow, const std::
 
 // A view of plain channels (all of `decimals`) with the given raw columns and scales, as a
 // reader leaves it: store, counts, channel table. The trend state of the view is reset.
-inline ViewTables& makeView(int viewNumber, const std::vector<std::vector<qint16>>& channels,
-                            int decimals, const QString& low = QStringLiteral("0"),
+inline ViewTables& makeView(int viewNumber, const Columns& channels, int decimals,
+                            const QString& low = QStringLiteral("0"),
                             const QString& high = QStringLiteral("100")) {
     ViewTables& v = views(viewNumber);
     v.clearRecording();
@@ -54,6 +58,24 @@ inline ViewTables& makeView(int viewNumber, const std::vector<std::vector<qint16
     v.ViewStart = 86400 * 100; // 2000-04-10
     return v;
 }
+
+// A ramp of n raw values starting at `first`.
+inline std::vector<qint16> ramp(int n, int first = 0) {
+    std::vector<qint16> v(static_cast<size_t>(n));
+    for (int i = 0; i < n; ++i) v[size_t(i)] = qint16(first + i);
+    return v;
+}
+
+// A view of plain channels, loaded as the window holds it after a load.
+struct LoadedView {
+    LoadedView(int number, const Columns& channels, int decimals = 0,
+               const QString& low = QStringLiteral("0"),
+               const QString& high = QStringLiteral("100"))
+        : view((makeView(number, channels, decimals, low, high), number)) {
+        EXPECT_TRUE(view.afterLoad());
+    }
+    TrendView view;
+};
 
 // A line fed by one channel with a scale.
 inline TrendLine line(int source, const QString& low = QStringLiteral("0"),
