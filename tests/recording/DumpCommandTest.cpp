@@ -35,8 +35,8 @@ TEST(DumpCommand, PrintsTheRecordingAsTheReaderStoresIt) {
     d.messages = {{start + 1, 2, "Door open", 4}};
     const QString path = dir.write(QStringLiteral("d.vxf"), buildVxf(d));
 
-    const ProcessRun run = recview({QStringLiteral("dump"), QStringLiteral("--json"), QStringLiteral("--rows"),
-                             QStringLiteral("2:3"), path});
+    const ProcessRun run = recview({QStringLiteral("dump"), QStringLiteral("--json"),
+                                    QStringLiteral("--rows"), QStringLiteral("2:3"), path});
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
     const json j = json::parse(run.out.toStdString());
     EXPECT_EQ(j["family"], 0);
@@ -55,7 +55,8 @@ TEST(DumpCommand, PrintsTheRecordingAsTheReaderStoresIt) {
     EXPECT_EQ(j["messages"][0]["msec"], 200);
     EXPECT_EQ(j["messages"][0]["text"], "Door open");
     EXPECT_EQ(j["messages"][0]["type"], 4);
-    const json expectedCells = {{"0000", "2.01", "0000", "20.2"}, {"0000", "3.01", "1000", "UNDER"}};
+    const json expectedCells = {{"0000", "2.01", "0000", "20.2"},
+                                {"0000", "3.01", "1000", "UNDER"}};
     EXPECT_EQ(j["cells"], expectedCells);
 }
 
@@ -63,7 +64,8 @@ TEST(DumpCommand, ReadFailureGivesTheMessageAndAnErrorStatus) {
     FixtureDir dir;
     QByteArray bytes = buildVxf(simpleVxf(2, 10, 0, 10, [](int, int) { return qint16(1); }));
     bytes.chop(8);
-    const ProcessRun run = recview({QStringLiteral("dump"), QStringLiteral("--json"), dir.write(QStringLiteral("x.vxf"), bytes)});
+    const ProcessRun run = recview({QStringLiteral("dump"), QStringLiteral("--json"),
+                                    dir.write(QStringLiteral("x.vxf"), bytes)});
     EXPECT_NE(run.exitCode, 0);
     EXPECT_TRUE(run.out.isEmpty());
     EXPECT_TRUE(run.err.contains("CHCount = 2")) << run.err.toStdString();
@@ -71,12 +73,17 @@ TEST(DumpCommand, ReadFailureGivesTheMessageAndAnErrorStatus) {
 
 TEST(DumpCommand, InfoSummarisesAndBadArgumentsAreRefused) {
     FixtureDir dir;
-    const QString path = dir.write(QStringLiteral("i.vxf"), buildVxf(simpleVxf(3, 7, 0, 10, [](int, int) { return qint16(1); })));
+    const QString path =
+        dir.write(QStringLiteral("i.vxf"),
+                  buildVxf(simpleVxf(3, 7, 0, 10, [](int, int) { return qint16(1); })));
     const ProcessRun info = recview({QStringLiteral("info"), path});
     EXPECT_EQ(info.exitCode, 0);
     EXPECT_TRUE(info.out.contains("rows:     7"));
     EXPECT_TRUE(info.out.contains("T3"));
-    EXPECT_EQ(recview({QStringLiteral("dump"), QStringLiteral("--json"), QStringLiteral("--rows"), QStringLiteral("5:2"), path}).exitCode, 2);
+    EXPECT_EQ(recview({QStringLiteral("dump"), QStringLiteral("--json"), QStringLiteral("--rows"),
+                       QStringLiteral("5:2"), path})
+                  .exitCode,
+              2);
     EXPECT_EQ(recview({QStringLiteral("info")}).exitCode, 2);
     EXPECT_EQ(recview({QStringLiteral("--version")}).out.trimmed(), QByteArray("recview 0.1.0"));
     EXPECT_NE(recview({QStringLiteral("info"), dir.path(QStringLiteral("none.vxf"))}).exitCode, 0);

@@ -7,6 +7,7 @@
 #include "support/QdfWriter.h"
 #include "support/RecordingFixture.h"
 #include "support/TmWriter.h"
+#include "support/VxfWriter.h"
 
 #include <QRandomGenerator>
 
@@ -27,6 +28,17 @@ struct FamilyCase {
     std::function<QByteArray()> build;
     qint64 headBytes; // where counts and offsets live; most flips go there
 };
+
+QByteArray vxfFile(const char* magic, quint32 mode) {
+    VxfDescription d = simpleVxf(3, 6, 1000, 10, [](int r, int c) { return qint16(r * c); });
+    d.magic = QByteArray(magic, 4);
+    d.dataMode = mode;
+    d.channels[1].expFormat = true;
+    d.messages = {{1001, 2, "start", 1}, {1003, 0, "stop", 2}};
+    d.alarms = {{1002, 0, 1, 0x11, 0x11, 5}, {1, 2, 1, 0x01, 0, 0}};
+    d.batchText = "LOT";
+    return buildVxf(d);
+}
 
 QByteArray qdfFile() {
     QdfDescription d;
@@ -57,8 +69,7 @@ QByteArray npFile(quint32 kind, quint16 version, bool gs) {
     d.version = version;
     d.startUnix = 1714989600;
     d.channels = {{"A", "V", 1, 1}, {"", "", 2, 3}};
-    const int columns = kind == 4 ? 4 : 2;
-    d.rows = QVector<QVector<NpSample>>(4, QVector<NpSample>(columns, {7, 1.5f, 3}));
+    d.rows = QVector<QVector<NpSample>>(4, QVector<NpSample>(kind == 4 ? 4 : 2, {7, 1.5f, 3}));
     return buildNp(d);
 }
 
@@ -76,6 +87,10 @@ QByteArray csvFile() {
 }
 
 const FamilyCase kFamilies[] = {
+    {"VX2", "f.vxf", Family::VXF, false, [] { return vxfFile("VX2\0", 0); }, 48},
+    {"W3N pairs", "f.vxf", Family::VXF, false, [] { return vxfFile("W3N\0", 4); }, 48},
+    {"W2N", "f.vxf", Family::VXF, false, [] { return vxfFile("W2N\0", 0); }, 48},
+    {"VX3", "f.vxf", Family::VXF, false, [] { return vxfFile("VX3\0", 1); }, 48},
     {"QDF", "f.qdf", Family::QDF, false, qdfFile, 48},
     {"TM", "f.dat", Family::TM, false, tmFile, 120},
     {"N5F v3", "f.n5f", Family::N5F, false, [] { return npFile(0, 3, false); }, 44},
@@ -86,6 +101,8 @@ const FamilyCase kFamilies[] = {
     {"JLM", "f.jlm", Family::VXF, false, jlmFile, 16},
     {"CSV", "f.csv", Family::CSV, false, csvFile, 40},
 };
+const FamilyCase& kVxf = kFamilies[0];
+const FamilyCase& kJlm = kFamilies[11];
 
 // Opens a file straight into view 1, past the header scan, so that every byte reaches the reader.
 LoadOutcome loadDirect(const QString& path, const FamilyCase& f) {
@@ -93,6 +110,7 @@ LoadOutcome loadDirect(const QString& path, const FamilyCase& f) {
     sel.clear();
     sel.append(path, 0, 0);
     sel.SelFileType = f.fileType;
+    sel.SelInterval = 1000;
     ViewTables& view = views(1);
     copySelectionToView(view);
     LoadOptions options;
@@ -163,17 +181,23 @@ TEST(FamilyRobustness, HugeCountsAllocateNothing) {
     jlm.channels = {{"A", "", 0}};
     jlm.keys = jlmKeys(2024, 1, 1, 0, 0, 0, 2, 1);
     jlm.rows = {{1}, {2}};
-    expectCleanOutcome(loadDirect(dir.write("h.jlm", buildJlm(jlm)), kFamilies[7]), kFamilies[7],
-                       "jlm", 0);
+    expectCleanOutcome(loadDirect(dir.write("h.jlm", buildJlm(jlm)), kJlm), kJlm, "jlm", 0);
 
-    NpDescription np;
-    np.channels = {{"A", "", 1, 0}};
-    np.rows = {{{1, 0, 0}}};
-    np.version = 4;
-    np.rowCount = 0x7FFFFFFF;
-    expectCleanOutcome(loadDirect(dir.write("h.n5f", buildNp(np)), kFamilies[2]), kFamilies[2],
-                       "np", 0);
+    VxfDescription vxf = simpleVxf(3, 6, 1000, 10, [](int, int) { return qint16(1); });
+    vxf.rowCount = 0xFFFFFFFF;
+    vxf.messageCount = 0xFFFFFFF0;
+    vxf.channelCount = 0x7FFFFFFF;
+    expectCleanOutcome(loadDirect(dir.write("h.vxf", buildVxf(vxf)), kVxf), kVxf, "vxf", 0);
     EXPECT_FALSE(views(1).Loaded);
+}
+
+TEST(FamilyRobustness, VxfOffsetsThatOverflowReadNoMessages) {
+    // Every head field 0xE0E0E0E0: the message block lies far beyond any 64-bit offset.
+    FixtureDir dir;
+    const QByteArray bytes = QByteArray("VX2") + QByteArray(41, char(0xE0));
+    const LoadOutcome out = loadDirect(dir.write("o.vxf", bytes), kVxf);
+    EXPECT_TRUE(views(1).ViewMessages.isEmpty());
+    expectCleanOutcome(out, kVxf, "overflow", 0);
 }
 
 } // namespace

