@@ -1,11 +1,8 @@
 #include "RecordTestSupport.h"
 
-#include "app/AppPaths.h"
 #include "savedwork/BackupRecords.h"
 #include "savedwork/BoundedArrays.h"
 #include "savedwork/PenCircleRecords.h"
-#include "savedwork/RecordNames.h"
-#include "trend/TrendViewState.h"
 
 #include <limits>
 

@@ -1,5 +1,4 @@
 #include "savedwork/clsAlmStyle.h"
-#include "savedwork/clsFileHeader.h"
 #include "savedwork/clsSaveParaData.h"
 #include "savedwork/clsTrndParaSet.h"
 
@@ -27,21 +26,6 @@ TEST(CopyStructure, TrndParaSetEnablesExactlyTheLinesWithASourceColumn) {
     EXPECT_EQ(n.ScaleHigh[128], 1E+308);
     EXPECT_EQ(n.ScaleHigh[129], 0);
     EXPECT_EQ(n.ViewTail, pair->OldRecord.ViewTail);
-}
-
-TEST(CopyStructure, FileHeaderTakesTheFirst128Channels) {
-    auto pair = std::make_unique<clsFileHeader>();
-    pair->OldRecord.ChTag[127] = QStringLiteral("last");
-    pair->OldRecord.ChUnit[127] = QStringLiteral("mm");
-    pair->OldRecord.ChColor[127] = 0x123456;
-    pair->OldRecord.ChExpDigits[127] = 3;
-    bool result = false;
-    EXPECT_TRUE(pair->CopyStructure(result));
-    EXPECT_EQ(pair->NewRecord.ChTag[127], QStringLiteral("last"));
-    EXPECT_EQ(pair->NewRecord.ChUnit[127], QStringLiteral("mm"));
-    EXPECT_EQ(pair->NewRecord.ChColor[127], 0x123456u);
-    EXPECT_EQ(pair->NewRecord.ChExpDigits[127], 3);
-    EXPECT_EQ(pair->NewRecord.ChColor[371], 0u);
 }
 
 TEST(CopyStructure, AlmStyleEntriesMoveFromLevelTimes128ToLevelTimes372) {

@@ -1,10 +1,5 @@
 #include "RecordTestSupport.h"
 
-#include "app/AppPaths.h"
-#include "recording/ViewTables.h"
-#include "savedwork/RecordNames.h"
-#include "savedwork/SavedWorkRecords.h"
-
 using namespace RecordBytesAt;
 
 using FileHeaderRecordTest = RecordDirs;
@@ -40,28 +35,25 @@ TEST_F(FileHeaderRecordTest, ArraysStandAtTheirOffsetsAndRoundTrip) {
     EXPECT_EQ(ch.ChColor, before.ChColor);
 }
 
-TEST_F(FileHeaderRecordTest, TextsAreCutOnACharacterBoundaryAndUnencodableBecomesQuestionMark) {
+TEST_F(FileHeaderRecordTest, TextsAreCutOnACharacterBoundaryAndNulsAreRemoved) {
     ChannelTable& ch = views(kView).Channels;
     ch.ChTag[1] = QStringLiteral("あいうえおかきくけ"); // 18 bytes: the ninth does not fit
     ch.ChTag[2] = QStringLiteral("A\u00E9B");           // é has no cp932 form
     ch.ChUnit[1] = QStringLiteral("abcdefg℃");          // the last character would need bytes 8-9
     ASSERT_TRUE(WriteFileHeader(kView));
-    carryOver(RecordNames::FileHeader);
+    QByteArray b = readAll(AppPaths(1) + RecordNames::FileHeader);
+    b.replace(744 + 16 * 2, 16, QByteArray("Pr\0ess\0\0\0\0\0\0\0\0\0\0", 16));
+    b.replace(6696 + 8, 8, QByteArray("\0kPa    ", 8));
+    b.replace(744 + 16 * 3, 16, QByteArray(16, '\0'));
+    writeAll(AppPaths(2) + RecordNames::FileHeader, b);
+    ch.ChTag[4] = QStringLiteral("x");
     ASSERT_TRUE(ReadFileHeader(kView));
     EXPECT_EQ(ch.ChTag[1], QStringLiteral("あいうえおかきく"));
     EXPECT_EQ(ch.ChTag[2], QStringLiteral("A?B"));
     EXPECT_EQ(ch.ChUnit[1], QStringLiteral("abcdefg"));
-}
-
-TEST_F(FileHeaderRecordTest, NulCharactersInTheTextsAreRemoved) {
-    QByteArray bytes(11160, '\0');
-    bytes.replace(744, 16, QByteArray("Pr\0ess\0\0\0\0\0\0\0\0\0\0", 16));
-    bytes.replace(6696, 8, QByteArray("\0kPa    ", 8));
-    writeAll(AppPaths(2) + RecordNames::FileHeader, bytes);
-    ASSERT_TRUE(ReadFileHeader(kView));
-    EXPECT_EQ(views(kView).Channels.ChTag[1], QStringLiteral("Press"));
-    EXPECT_EQ(views(kView).Channels.ChUnit[1], QStringLiteral("kPa"));
-    EXPECT_EQ(views(kView).Channels.ChTag[2], QString());
+    EXPECT_EQ(ch.ChTag[3], QStringLiteral("Press"));
+    EXPECT_EQ(ch.ChUnit[2], QStringLiteral("kPa"));
+    EXPECT_EQ(ch.ChTag[4], QString());
 }
 
 TEST_F(FileHeaderRecordTest, AnOldLengthFileLeavesTheLaterFieldsZero) {

@@ -1,10 +1,6 @@
 #include "RecordTestSupport.h"
 
-#include "app/AppPaths.h"
-#include "recording/ViewTables.h"
 #include "savedwork/OleDate.h"
-#include "savedwork/RecordNames.h"
-#include "savedwork/SavedWorkRecords.h"
 #include "savedwork/clsAlmStyle.h"
 #include "savedwork/clsFileHeader.h"
 #include "savedwork/clsSaveParaData.h"

@@ -1,14 +1,21 @@
 #include "RecordTestSupport.h"
 
-#include "app/AppPaths.h"
 #include "app/ViewSlots.h"
-#include "recording/ViewTables.h"
-#include "trend/TrendViewState.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <cstring>
+#include <bit>
+
+namespace {
+
+void emptyView(int view) {
+    views(view).clearRecording();
+    trendState(view).reset();
+    clearViewSlots();
+}
+
+} // namespace
 
 void RecordDirs::SetUp() {
     ASSERT_TRUE(root_.isValid());
@@ -19,15 +26,11 @@ void RecordDirs::SetUp() {
         ASSERT_TRUE(QDir().mkpath(dir));
         setAppPath(i + 1, dir);
     }
-    views(kView).clearRecording();
-    trendState(kView).reset();
-    clearViewSlots();
+    emptyView(kView);
 }
 
 void RecordDirs::TearDown() {
-    views(kView).clearRecording();
-    trendState(kView).reset();
-    clearViewSlots();
+    emptyView(kView);
 }
 
 void RecordDirs::carryOver(const QString& name) {
@@ -45,20 +48,11 @@ qint64 le(const QByteArray& bytes, qsizetype offset, int width) {
 }
 
 double f64(const QByteArray& bytes, qsizetype offset) {
-    const quint64 bits = quint64(le(bytes, offset, 8));
-    double d;
-    std::memcpy(&d, &bits, 8);
-    return d;
+    return std::bit_cast<double>(le(bytes, offset, 8));
 }
 
 void putLe(QByteArray& bytes, qsizetype offset, int width, qint64 value) {
     for (int i = 0; i < width; ++i) bytes[offset + i] = char((quint64(value) >> (8 * i)) & 0xFF);
-}
-
-void putF64(QByteArray& bytes, qsizetype offset, double value) {
-    qint64 bits;
-    std::memcpy(&bits, &value, 8);
-    putLe(bytes, offset, 8, bits);
 }
 
 QByteArray readAll(const QString& path) {

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "app/AppPaths.h"
+#include "recording/ViewTables.h"
+#include "savedwork/RecordNames.h"
+#include "savedwork/SavedWorkRecords.h"
+#include "trend/TrendViewState.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
-#include <QtGlobal>
 
 #include <gtest/gtest.h>
 
@@ -28,7 +33,6 @@ namespace RecordBytesAt {
 qint64 le(const QByteArray& bytes, qsizetype offset, int width);
 double f64(const QByteArray& bytes, qsizetype offset);
 void putLe(QByteArray& bytes, qsizetype offset, int width, qint64 value);
-void putF64(QByteArray& bytes, qsizetype offset, double value);
 
 QByteArray readAll(const QString& path);
 void writeAll(const QString& path, const QByteArray& bytes);
