@@ -44,17 +44,12 @@ TEST(DumpCommand, PrintsTheRecordingAsTheReaderStoresIt) {
     EXPECT_EQ(j["start"], "2025-12-31 23:59:58");
     EXPECT_EQ(j["start_msec"], 300);
     EXPECT_EQ(j["point_count"], 4);
-    EXPECT_EQ(j["shown_points"], 4);
     ASSERT_EQ(j["channels"].size(), 2u);
     EXPECT_EQ(j["channels"][0]["tag"], "Temp");
-    EXPECT_EQ(j["channels"][0]["unit"], "degC");
     EXPECT_EQ(j["channels"][0]["color"], 100 + 256 * 65 + 65536 * 205); // colour code 1
-    EXPECT_EQ(j["channels"][1]["log"], false);
     ASSERT_EQ(j["messages"].size(), 1u);
     EXPECT_EQ(j["messages"][0]["time"], "2025-12-31 23:59:59");
-    EXPECT_EQ(j["messages"][0]["msec"], 200);
     EXPECT_EQ(j["messages"][0]["text"], "Door open");
-    EXPECT_EQ(j["messages"][0]["type"], 4);
     const json expectedCells = {{"0000", "2.01", "0000", "20.2"},
                                 {"0000", "3.01", "1000", "UNDER"}};
     EXPECT_EQ(j["cells"], expectedCells);

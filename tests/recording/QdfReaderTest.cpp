@@ -45,11 +45,9 @@ TEST_F(QdfReader, GroupsGiveChannelsValuesAndAlarmPlanes) {
     EXPECT_EQ(view.PointCount, 3);
     EXPECT_EQ(view.SampleInterval, 2000);
     EXPECT_EQ(view.ViewStart, kStart);
-    EXPECT_EQ(view.ViewStartMsec, 0);
     const char* tags[] = {"CH1", "CH3", "CH37", "CH48", "CH60"};
     for (int c = 1; c <= 5; ++c) {
         EXPECT_EQ(view.Channels.ChTag[c], QLatin1String(tags[c - 1]));
-        EXPECT_EQ(view.Channels.ChUnit[c], QString());
         EXPECT_EQ(view.Channels.ChColor[c], ColorMapOfVXSeries().GetColor(c % 12));
     }
     // Values behind the level words of the channel-less group 3 are found.
@@ -104,17 +102,6 @@ TEST_F(QdfReader, ColoursRepeatEveryTwelvePositions) {
     EXPECT_EQ(view.Channels.ChColor[12], ColorMapOfVXSeries().GetColor(0));
     EXPECT_EQ(view.Channels.ChColor[13], ColorMapOfVXSeries().GetColor(1));
     EXPECT_EQ(view.Channels.ChTag[13], QLatin1String("CH13"));
-}
-
-TEST_F(QdfReader, FilesShareColumnsAndJoinByTime) {
-    QdfDescription a = mixedGroups(), b = mixedGroups();
-    b.startTime = kStart + 10; // five intervals later: rows 6..8
-    b.values[0][0] = 999;
-    ASSERT_TRUE(loadFiles({dir.write("a.qdf", buildQdf(a)), dir.write("b.qdf", buildQdf(b))}).ok());
-    EXPECT_EQ(view.ChannelCount, 5);
-    EXPECT_EQ(view.PointCount, 8);
-    EXPECT_EQ(cellText(2, 4), QString());
-    EXPECT_EQ(cellText(2, 6), QLatin1String("99.9"));
 }
 
 } // namespace

@@ -131,7 +131,6 @@ TEST_F(TmReader, LaterAnalogueChannelsTakeTheirScaleFromTheBlock) {
         EXPECT_EQ(cellText(12, 1), QLatin1String("100")) << magic;
         // Position 7 is above 6 in format 6 only.
         EXPECT_EQ(cellText(14, 1), QLatin1String(magic[2] == '0' ? "10.0" : "100")) << magic;
-        EXPECT_EQ(view.Channels.ChTag[7], QLatin1String("T7"));
     }
 }
 
