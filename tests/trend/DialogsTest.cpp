@@ -58,10 +58,7 @@ TEST(TimeAxisSetting, RangeSpanAndRefusals) {
 
     // Empty cells: the whole recording's ends.
     TimeAxisSetting whole(d.view);
-    whole.startDate.clear();
-    whole.startTime.clear();
-    whole.endDate.clear();
-    whole.endTime.clear();
+    whole.startDate = whole.startTime = whole.endDate = whole.endTime = QString();
     EXPECT_EQ(whole.ok(), 0);
     EXPECT_EQ(whole.EndTime(), 1000);
 
@@ -91,8 +88,9 @@ TEST(XlblSet, IntervalsInPoints) {
     EXPECT_EQ(texts, 3) << "points 0, 360 and 720";
 }
 
-// The axes dialog: fixed or automatic bounds, the option mapping, and cancel restoring all.
-TEST(YAxesStyle, BoundsOptionAndCancel) {
+// The axes dialog: fixed or automatic bounds, the option mapping, cancel restoring all, and
+// percent mode.
+TEST(YAxesStyle, BoundsOptionCancelAndPercent) {
     for (int option : {0, 1, 2, 3})
         EXPECT_EQ(YAxesStyle::optionButton(option), std::max(0, option - 1)) << option;
 
@@ -112,20 +110,16 @@ TEST(YAxesStyle, BoundsOptionAndCancel) {
     EXPECT_EQ(y.min(), min0);
     EXPECT_EQ(y.max(), max0);
     EXPECT_EQ(d.view.state().ZoomY[0][1], min0);
-}
 
-// In percent mode the Min and Max cells are the bound channel's scale: the axis stays 0..100
-// and the series are refilled.
-TEST(YAxesStyle, PercentModeBindsTheChannelScale) {
-    DialogView d;
+    // In percent mode the Min and Max cells are the bound channel's scale: the axis stays
+    // 0..100 and the series are refilled.
     d.view.state().ScalePercentMode = true;
     d.view.plot().CH_DataSet();
-    EXPECT_EQ(d.view.chart().Y(1, 501), 50);
-    YAxesStyle dialog(d.view);
-    EXPECT_EQ(dialog.intervalSuffix(), QStringLiteral("(%)"));
-    EXPECT_EQ(dialog.cells[0].max, QStringLiteral("1000"));
-    dialog.cells[0].max = QStringLiteral("500");
-    dialog.ok();
+    YAxesStyle percent(d.view);
+    EXPECT_EQ(percent.intervalSuffix(), QStringLiteral("(%)"));
+    EXPECT_EQ(percent.cells[0].max, QStringLiteral("1000"));
+    percent.cells[0].max = QStringLiteral("500");
+    percent.ok();
     EXPECT_EQ(d.view.chart().axisY().max(), 100);
     EXPECT_EQ(d.view.chart().Y(1, 501), 100);
     EXPECT_EQ(d.view.chart().Y(2, 501), 50) << "the other channel keeps its scale";
