@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr double H = Chart::kHoleValue;
-
 void fill(ChartModel& model) {
     model.setSeriesCount(3);
     model.setSeriesSource(1, std::make_unique<LookupSource>(std::vector<quint16>{1, 2, 3}));

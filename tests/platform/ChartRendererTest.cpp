@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr double H = Chart::kHoleValue;
 const QSize kSize(400, 300);
 
 bool isRed(QRgb c) {
@@ -111,17 +110,14 @@ TEST(ChartGeometry, RegionsAndNearestPoint) {
 TEST(ChartRenderer, ChartLabelsFollowTheirAttachment) {
     ChartModel model;
     flatLineWithGap(model);
-    auto addLabel = [&](const QString& text, int point) {
+    // Point 0 stands for a label fixed at pixel (20, 20).
+    for (const auto& [text, point] : {std::pair{"on point 3", 3}, {"on a hole", 5}, {"fixed", 0}}) {
         ChartLabel& label = model.labels().add(text);
         label.Text = text;
-        label.AttachMethod = Chart::AttachMethod::DataIndex;
+        label.AttachCoord = QPointF(20, 20);
+        if (point) label.AttachMethod = Chart::AttachMethod::DataIndex;
         label.AttachDataIndex = {1, point};
-    };
-    addLabel("on point 3", 3);
-    addLabel("on a hole", 5);
-    ChartLabel& fixed = model.labels().add("fixed");
-    fixed.Text = "fixed";
-    fixed.AttachCoord = QPointF(20, 20);
+    }
     auto origins = [&] {
         std::map<QString, QPointF> found;
         for (const auto& text : ChartRenderer::prepare(model, QSizeF(kSize)).texts)

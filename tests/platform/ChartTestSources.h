@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <vector>
 
+// The hole: a point without a value.
+constexpr double H = Chart::kHoleValue;
+
 // A channel as the trend logic keeps it: 16-bit raw values, raw 0 is a hole.
 class LookupSource : public SeriesSource {
 public:

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr double H = Chart::kHoleValue;
-
 MinMaxPyramid::Range bruteForce(const std::vector<double>& v, qsizetype first, qsizetype n) {
     MinMaxPyramid::Range r;
     for (qsizetype i = first; i < first + n; ++i) r.add(v[size_t(i)]);

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr double H = Chart::kHoleValue;
-
 // Plot of 100 x 100 pixels at the origin; X 0..xMax, Y 0..10.
 ChartMapper mapper(double xMax) {
     return ChartMapper(QRectF(0, 0, 100, 100), {0, xMax}, {0, 10});

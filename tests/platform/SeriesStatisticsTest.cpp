@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr double H = Chart::kHoleValue;
-
 SeriesStatistics of(const std::vector<double>& v) {
     return SeriesStatistics::of(v.data(), qsizetype(v.size()));
 }
