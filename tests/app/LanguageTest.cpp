@@ -6,31 +6,21 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// Columns 1..9: mark, ja, en, (2), ko, zh, (5), it, de.
-QString row(const QStringList& cells) {
-    return cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-}
-
+// Columns 1..9: mark, ja, en, (2), ko, zh, (5), it, de. A second marker row follows message 2.
 QString sampleTable(bool germanFont) {
-    QString t = row({QStringLiteral("title row")});
-    t += row({QStringLiteral("<<VX>>")});
-    t += row({QStringLiteral("1"), QStringLiteral("ja1"), QStringLiteral("en1"), QString(),
-              QStringLiteral("ko1"), QStringLiteral("zh1"), QString(), QStringLiteral("it1"),
-              QStringLiteral("de1")});
-    t +=
-        row({QStringLiteral("2"), QStringLiteral("Noto Sans CJK JP"), QStringLiteral("Arial"),
-             QString(), QStringLiteral("Noto Sans CJK KR"), QStringLiteral("Noto Sans CJK SC"),
-             QString(), QStringLiteral("Arial"), germanFont ? QStringLiteral("Arial") : QString()});
-    t += row({QStringLiteral("<<VX>>"), QStringLiteral("second marker"), QStringLiteral("en3")});
-    return t;
+    return u"title row\n<<VX>>\n1\tja1\ten1\t\tko1\tzh1\t\tit1\tde1\n"
+           u"2\tNoto Sans CJK JP\tArial\t\tNoto Sans CJK KR\tNoto Sans CJK SC\t\tArial\t"_s +
+           (germanFont ? u"Arial"_s : QString()) + u"\n<<VX>>\tsecond marker\ten3\n"_s;
 }
 
 class LanguageTest : public ::testing::Test {
 protected:
     QString writeTable(const QString& text) {
-        const QString path = dir.path() + QStringLiteral("/langVX.txt");
+        const QString path = dir.path() + u"/langVX.txt"_s;
         EXPECT_TRUE(TextFile::writeAtomically(path, text.toUtf8()));
         return path;
     }
@@ -38,14 +28,12 @@ protected:
 };
 
 TEST_F(LanguageTest, LanguageFollowsTheLocaleKeyWithEnglishFallback) {
-    LanguageTable withGerman;
+    LanguageTable withGerman, withoutGerman;
     withGerman.loadText(sampleTable(true));
-    LanguageTable withoutGerman;
     withoutGerman.loadText(sampleTable(false));
     const struct {
         const char* key;
-        int language;
-        int withoutGermanFont;
+        int language, withoutGermanFont;
     } cases[] = {
         {"11", kJapanese, kJapanese}, {"09", kEnglish, kEnglish}, {"12", kKorean, kKorean},
         {"04", kChinese, kChinese},   {"10", kItalian, kItalian}, {"07", kGerman, kEnglish},
@@ -59,54 +47,45 @@ TEST_F(LanguageTest, LanguageFollowsTheLocaleKeyWithEnglishFallback) {
 }
 
 TEST_F(LanguageTest, ZhCnFileChoosesChineseEvenWithoutItsColumn) {
-    LanguageTable empty;
-    EXPECT_EQ(chooseLanguage(empty, QStringLiteral("11"), true), kChinese);
-    loadLanguageTable(writeTable(row({QStringLiteral("<<VX>>")}) + row({QStringLiteral("1")})),
-                      QStringLiteral("09"), true);
+    EXPECT_EQ(chooseLanguage(LanguageTable(), u"11"_s, true), kChinese);
+    loadLanguageTable(writeTable(u"<<VX>>\n1\n"_s), u"09"_s, true);
     EXPECT_EQ(ActiveLanguage(), kChinese);
     EXPECT_EQ(MsgText(1), QString());
-    EXPECT_EQ(LanguageFont(), QLatin1String("Ms Sans Serif"));
+    EXPECT_EQ(LanguageFont(), u"Ms Sans Serif"_s);
 }
 
 TEST_F(LanguageTest, MessagesCountFromTheFirstMarkerRow) {
-    loadLanguageTable(writeTable(sampleTable(true)), QStringLiteral("07"), false);
+    loadLanguageTable(writeTable(sampleTable(true)), u"07"_s, false);
     EXPECT_EQ(activeLanguageTable().MarkerRow(), 2);
     EXPECT_EQ(ActiveLanguage(), kGerman);
-    EXPECT_EQ(MsgText(1), QLatin1String("de1"));
-    EXPECT_EQ(LanguageFont(), QLatin1String("Arial"));
+    EXPECT_EQ(MsgText(1), u"de1"_s);
+    EXPECT_EQ(LanguageFont(), u"Arial"_s);
     EXPECT_EQ(MsgText(MsgId(9999)), QString());
     EXPECT_EQ(MsgText(-1), QString());
-    EXPECT_EQ(activeLanguageTable().message(3, kJapanese), QLatin1String("second marker"));
+    EXPECT_EQ(activeLanguageTable().message(3, kJapanese), u"second marker"_s);
 }
 
 TEST_F(LanguageTest, MissingTableGivesEnglishAndEmptyTexts) {
-    loadLanguageTable(dir.path() + QStringLiteral("/none.txt"), QStringLiteral("11"), false);
+    loadLanguageTable(dir.path() + u"/none.txt"_s, u"11"_s, false);
     EXPECT_EQ(ActiveLanguage(), kEnglish);
     EXPECT_EQ(MsgText(2), QString());
-    EXPECT_EQ(LanguageFont(), QLatin1String("Ms Sans Serif"));
+    EXPECT_EQ(LanguageFont(), u"Ms Sans Serif"_s);
 }
 
-TEST_F(LanguageTest, WithoutMarkerMessageNIsRowN) {
+TEST_F(LanguageTest, RowsWithoutMarkerCutCellsAndOldCodePageFiles) {
     LanguageTable table;
-    table.loadText(row({QStringLiteral("a"), QStringLiteral("ja1")}) +
-                   row({QStringLiteral("b"), QStringLiteral("ja2")}));
+    table.loadText(u"a\tja1\nb\tja2\n"_s); // without a marker message n is row n
     EXPECT_EQ(table.MarkerRow(), 0);
-    EXPECT_EQ(table.message(2, kJapanese), QLatin1String("ja2"));
-}
+    EXPECT_EQ(table.message(2, kJapanese), u"ja2"_s);
 
-TEST_F(LanguageTest, CellsAreCutAndOldCodePageFilesAreRead) {
-    LanguageTable table;
-    table.loadText(row({QStringLiteral("<<VX>>")}) +
-                   row({QStringLiteral("1"), QString(150, QLatin1Char('x'))}) +
-                   QStringLiteral("2\t\xE6\x97\xA5\r\n"));
+    table.loadText(u"<<VX>>\n1\t"_s + QString(150, u'x') + u"\n2\t日\r\n"_s);
     EXPECT_EQ(table.message(1, kJapanese).size(), LanguageTable::kLongestCell);
-    EXPECT_EQ(table.message(2, kJapanese), QStringLiteral("\xE6\x97\xA5")); // CR stripped
+    EXPECT_EQ(table.message(2, kJapanese), u"日"_s); // CR stripped
 
-    const QString path = dir.path() + QStringLiteral("/cp932.txt");
-    const QString japanese = QStringLiteral("<<VX>>\n1\t日本語\n");
-    ASSERT_TRUE(TextFile::writeAtomically(path, TextFile::encodeCp932(japanese)));
+    const QString path = dir.path() + u"/cp932.txt"_s;
+    ASSERT_TRUE(TextFile::writeAtomically(path, TextFile::encodeCp932(u"<<VX>>\n1\t日本語\n"_s)));
     ASSERT_TRUE(table.loadFile(path));
-    EXPECT_EQ(table.message(1, kJapanese), QStringLiteral("日本語"));
+    EXPECT_EQ(table.message(1, kJapanese), u"日本語"_s);
 }
 
 } // namespace

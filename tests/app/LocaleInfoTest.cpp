@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(LocaleInfo, LocalesGiveKeyOrderAndSeparators) {
@@ -16,8 +18,7 @@ TEST(LocaleInfo, LocalesGiveKeyOrderAndSeparators) {
         QLocale locale;
         const char* key;
         int order;
-        const char* decimal;
-        const char* date;
+        const char *decimal, *date;
     } cases[] = {
         {QLocale(QLocale::Japanese, QLocale::Japan), "11", 2, ".", "/"},
         {QLocale(QLocale::English, QLocale::UnitedStates), "09", 0, ".", "/"},
@@ -28,52 +29,45 @@ TEST(LocaleInfo, LocalesGiveKeyOrderAndSeparators) {
     };
     for (const auto& c : cases) {
         const LocaleInfo info = LocaleInfo::fromLocale(c.locale, QString());
-        const std::string name = c.locale.name().toStdString();
-        EXPECT_EQ(info.languageKey, QLatin1String(c.key)) << name;
-        EXPECT_EQ(info.dateOrder, c.order) << name;
-        EXPECT_EQ(info.decimalSep, QLatin1String(c.decimal)) << name;
-        EXPECT_EQ(info.dateSep, QLatin1String(c.date)) << name;
-        EXPECT_EQ(info.timeSep, QLatin1String(":")) << name;
+        EXPECT_EQ(QStringList({info.languageKey, QString::number(info.dateOrder), info.decimalSep,
+                               info.dateSep, info.timeSep}),
+                  QStringList({QLatin1String(c.key), QString::number(c.order),
+                               QLatin1String(c.decimal), QLatin1String(c.date), u":"_s}))
+            << c.locale.name().toStdString();
     }
-    EXPECT_EQ(languageKeyOf(QLocale::C), QLatin1String("09"));
+    EXPECT_EQ(languageKeyOf(QLocale::C), u"09"_s);
 }
 
 TEST(LocaleInfo, EnvironmentForcesTheLanguage) {
     const QByteArray old = qgetenv("RECVIEW_LANG");
     qputenv("RECVIEW_LANG", "de");
-    EXPECT_EQ(LocaleInfo::system().languageKey, QLatin1String("07"));
-    EXPECT_EQ(VbFormat::Separators::system().decimal, QLatin1String(","));
+    EXPECT_EQ(LocaleInfo::system().languageKey, u"07"_s);
+    EXPECT_EQ(VbFormat::Separators::system().decimal, u","_s);
     qputenv("RECVIEW_LANG", "ja");
     EXPECT_EQ(LocaleInfo::system().dateOrder, 2);
-    if (old.isEmpty())
-        qunsetenv("RECVIEW_LANG");
-    else
-        qputenv("RECVIEW_LANG", old);
+    old.isEmpty() ? qunsetenv("RECVIEW_LANG") : qputenv("RECVIEW_LANG", old);
 }
 
 TEST(LogObject, FileLogAppendsLinesAndNowExAddsMilliseconds) {
     QTemporaryDir dir;
-    FileLog log(dir.path() + QStringLiteral("/Error.log"));
+    FileLog log(dir.path() + u"/Error.log"_s);
     clsLibrary::shared().setLogs(&log, nullptr);
-    clsLibrary::shared().errorReport(QStringLiteral("first"));
-    clsLibrary::shared().traceReport(QStringLiteral("nowhere"));
-    EXPECT_TRUE(log.putLog(nullptr, 3, QStringLiteral("second")));
+    clsLibrary::shared().errorReport(u"first"_s);
+    clsLibrary::shared().traceReport(u"nowhere"_s);
+    EXPECT_TRUE(log.putLog(nullptr, 3, u"second"_s));
     clsLibrary::shared().setLogs(nullptr, nullptr);
     QFile file(log.path());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
     ASSERT_EQ(lines.size(), 3);
-    EXPECT_TRUE(lines[0].endsWith(QLatin1String(" [LibraryError]first")));
-    EXPECT_TRUE(lines[1].endsWith(QLatin1String(" [3] second")));
+    EXPECT_TRUE(lines[0].endsWith(u" [LibraryError]first"_s));
+    EXPECT_TRUE(lines[1].endsWith(u" [3] second"_s));
 
-    const QRegularExpression stamp(
-        QStringLiteral("^\\d{4}/\\d\\d/\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}$"));
-    EXPECT_TRUE(
-        stamp.match(clsLibrary::formatNowEx(QStringLiteral("yyyy/mm/dd hh:nn:ss.bbb"))).hasMatch());
+    const QRegularExpression stamp(u"^\\d{4}/\\d\\d/\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}$"_s);
+    EXPECT_TRUE(stamp.match(clsLibrary::formatNowEx(u"yyyy/mm/dd hh:nn:ss.bbb"_s)).hasMatch());
     int msec = -1;
-    const QDateTime now = clsLibrary::NowEx(msec);
+    EXPECT_EQ(clsLibrary::NowEx(msec).time().msec(), 0);
     EXPECT_GE(msec, 0);
-    EXPECT_EQ(now.time().msec(), 0);
 }
 
 } // namespace

@@ -7,27 +7,21 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-class ShowMsgTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        loadEnglishMessages(dir.path(), {{268, QStringLiteral("Viewer")},
-                                         {269, QStringLiteral("Error")},
-                                         {360, QStringLiteral("Done.")},
-                                         {561, QStringLiteral("Failed.")},
-                                         {563, QStringLiteral("Finished.")},
-                                         {577, QStringLiteral("Continue?")}});
-    }
+TEST(ShowMsg, KindsGiveTheirFlagsAndDefaults) {
     QTemporaryDir dir;
-};
-
-TEST_F(ShowMsgTest, KindsGiveTheirFlagsAndDefaults) {
+    loadEnglishMessages(dir.path(), {{268, u"Viewer"_s},
+                                     {269, u"Error"_s},
+                                     {360, u"Done."_s},
+                                     {561, u"Failed."_s},
+                                     {563, u"Finished."_s},
+                                     {577, u"Continue?"_s}});
     const struct {
         int kind;
-        const char* text;
-        const char* title;
-        const char* shownText;
+        const char *text, *title, *shownText;
         int flags;
         const char* shownTitle;
     } cases[] = {
@@ -52,7 +46,7 @@ TEST_F(ShowMsgTest, KindsGiveTheirFlagsAndDefaults) {
     EXPECT_EQ(sink.calls().size(), std::size(cases));
 }
 
-TEST_F(ShowMsgTest, ButtonSetsFollowTheLowThreeBits) {
+TEST(ShowMsg, ButtonSetsFollowTheLowThreeBitsAndTheFirstAnswersWithoutSink) {
     const MessageBoxButton ok{kOK, 46}, cancel{kCancel, 47}, abort{kAbort, 263}, retry{kRetry, 264},
         ignore{kIgnore, 265}, yes{kYes, 266}, no{kNo, 267};
     const struct {
@@ -71,13 +65,11 @@ TEST_F(ShowMsgTest, ButtonSetsFollowTheLowThreeBits) {
         {7, {ok}},
     };
     for (const auto& c : cases) EXPECT_EQ(messageBoxButtons(c.flags), c.buttons) << c.flags;
-}
 
-TEST_F(ShowMsgTest, WithoutSinkTheFirstButtonAnswers) {
     setMessageSink(nullptr);
-    EXPECT_EQ(ShowMsg(1, QStringLiteral("headless question")), kYes);
-    EXPECT_EQ(ShowMsg(5, QStringLiteral("headless question")), kOK);
-    EXPECT_EQ(MsgBox(QStringLiteral("headless"), kFlagRetryCancel, QString()), kRetry);
+    EXPECT_EQ(ShowMsg(1, u"headless question"_s), kYes);
+    EXPECT_EQ(ShowMsg(5, u"headless question"_s), kOK);
+    EXPECT_EQ(MsgBox(u"headless"_s, kFlagRetryCancel, QString()), kRetry);
 }
 
 } // namespace

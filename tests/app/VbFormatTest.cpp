@@ -2,37 +2,35 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using VbFormat::Separators;
 
-const Separators kComma{QStringLiteral(","), QStringLiteral("."), QStringLiteral("."),
-                        QStringLiteral(":")};
+const Separators kComma{u","_s, u"."_s, u"."_s, u":"_s};
 
 struct NumberCase {
     double value;
-    const char* pattern;
-    const char* text;
+    const char *pattern, *text;
 };
 
-TEST(VbFormat, NumberPatterns) {
+TEST(VbFormat, NumberAndExponentPatterns) {
     const NumberCase cases[] = {
         {59.4, "##0.0", "59.4"},
         {-1234.5, "#######0", "-1235"},
         {3.14159, "##0.0000", "3.1416"},
-        {0.05, "#####0.0", "0.1"},
         {-0.04, "#####0.0", "0.0"}, // rounds to zero: no minus sign
         {-7.25, "####0.00", "-7.25"},
-        {7, "###0.000", "7.000"},
         {123456789, "##0.0", "123456789.0"}, // more digits than placeholders
         {1234567.891, "#,##0", "1,234,568"},
         {-999.5, "#,##0", "-1,000"},
         {123, "###0.", "123."},
-        {2.5, "###0.00", "2.50"},
         {0.5, "#.##", ".5"},
         {1.5, "0.0#", "1.5"},
         {1.505, "0.0#", "1.51"},
         {1.005, "0.00", "1.01"}, // the value's decimal text decides, not its binary tail
+        {-0.125, "0.00", "-0.13"},
         {-5, "0;(0)", "(5)"},
         {0, "0;(0);\"zero\"", "zero"},
         {-5, "0;;\"zero\"", "-5"},
@@ -40,15 +38,6 @@ TEST(VbFormat, NumberPatterns) {
         {5, "\"No.\"000", "No.005"},
         {1234567, "000-0000", "123-4567"},
         {5, "0 kg", "5 kg"},
-    };
-    for (const NumberCase& c : cases)
-        EXPECT_EQ(VbFormat::formatNumber(c.value, QLatin1String(c.pattern)), QLatin1String(c.text))
-            << c.value << " " << c.pattern;
-}
-
-TEST(VbFormat, ExponentPatterns) {
-    const NumberCase cases[] = {
-        {12345, "0E+00", "1E+04"},
         {12345, "0.000E+00", "1.235E+04"},
         {0.00012345, "0.00E+0", "1.23E-4"},
         {0, "0.0E+00", "0.0E+00"},
@@ -64,48 +53,41 @@ TEST(VbFormat, ExponentPatterns) {
 }
 
 TEST(VbFormat, CommaLocaleUsesItsSeparators) {
-    EXPECT_EQ(VbFormat::formatNumber(1234567.891, QStringLiteral("#,##0"), kComma),
-              QLatin1String("1.234.568"));
-    EXPECT_EQ(VbFormat::formatNumber(2.5, QStringLiteral("###0.00"), kComma),
-              QLatin1String("2,50"));
-    EXPECT_EQ(VbFormat::formatNumber(-1.5e-6, QStringLiteral("0.0E+00"), kComma),
-              QLatin1String("-1,5E-06"));
-    EXPECT_EQ(VbFormat::formatNumber(0.1 + 0.2, QString(), kComma), QLatin1String("0,3"));
-    EXPECT_EQ(VbFormat::formatNumber(0.1 + 0.2, QString()), QLatin1String("0.3"));
-    EXPECT_EQ(VbFormat::defaultText(1e308), QLatin1String("1E+308"));
+    const NumberCase cases[] = {{1234567.891, "#,##0", "1.234.568"},
+                                {2.5, "###0.00", "2,50"},
+                                {-1.5e-6, "0.0E+00", "-1,5E-06"},
+                                {0.1 + 0.2, "", "0,3"}};
+    for (const NumberCase& c : cases)
+        EXPECT_EQ(VbFormat::formatNumber(c.value, QLatin1String(c.pattern), kComma),
+                  QLatin1String(c.text));
+    EXPECT_EQ(VbFormat::formatNumber(0.1 + 0.2, QString()), u"0.3"_s);
+    EXPECT_EQ(VbFormat::defaultText(1e308), u"1E+308"_s);
 }
 
 TEST(VbFormat, PatternsRoundHalvesAwayIntegersToEven) {
-    struct Case {
+    const struct {
         double value;
         const char* pattern;
         qint64 even;
-    };
-    const Case cases[] = {{0.5, "1", 0},    {1.5, "2", 2},   {2.5, "3", 2},
-                          {-2.5, "-3", -2}, {-0.5, "-1", 0}, {3.5, "4", 4}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(VbFormat::formatNumber(c.value, QStringLiteral("0")), QLatin1String(c.pattern));
+    } cases[] = {{0.5, "1", 0},    {1.5, "2", 2},   {2.5, "3", 2},
+                 {-2.5, "-3", -2}, {-0.5, "-1", 0}, {3.5, "4", 4}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(VbFormat::formatNumber(c.value, u"0"_s), QLatin1String(c.pattern));
         EXPECT_EQ(VbFormat::roundHalfEven(c.value), c.even) << c.value;
         EXPECT_EQ(VbFormat::roundHalfAway(c.value, 0), QString::fromLatin1(c.pattern).toDouble());
     }
     EXPECT_DOUBLE_EQ(VbFormat::roundHalfAway(1.005, 2), 1.01);
     EXPECT_DOUBLE_EQ(VbFormat::roundHalfAway(-0.125, 2), -0.13);
-    EXPECT_EQ(VbFormat::formatNumber(0.125, QStringLiteral("0.00")), QLatin1String("0.13"));
-    EXPECT_EQ(VbFormat::formatNumber(-0.125, QStringLiteral("0.00")), QLatin1String("-0.13"));
 }
 
 TEST(VbFormat, DateAndTimePatterns) {
     const TimeBase::CalendarTime t{2024, 3, 5, 9, 7, 3};
-    const Separators dots{QStringLiteral("."), QStringLiteral(","), QStringLiteral("."),
-                          QStringLiteral(".")};
+    const Separators dots{u"."_s, u","_s, u"."_s, u"."_s};
     const struct {
-        const char* pattern;
-        const char* text;
-        const char* dotted;
+        const char *pattern, *text, *dotted;
     } cases[] = {
         {"yyyy/mm/dd", "2024/03/05", "2024.03.05"},
         {"yy/mm/dd", "24/03/05", "24.03.05"},
-        {"mm/dd", "03/05", "03.05"},
         {"d/m/yyyy", "5/3/2024", "5.3.2024"},
         {"hh:nn:ss", "09:07:03", "09.07.03"},
         {"h:n:s", "9:7:3", "9.7.3"},
@@ -124,12 +106,11 @@ TEST(VbFormat, DateAndTimePatterns) {
 }
 
 TEST(VbFormat, DateSerials) {
-    EXPECT_EQ(VbFormat::formatDateTime(VbFormat::fromDateSerial(0.5447106481481482),
-                                       QStringLiteral("hh:nn:ss")),
-              QLatin1String("13:04:23"));
+    EXPECT_EQ(VbFormat::formatDateTime(VbFormat::fromDateSerial(0.5447106481481482), u"hh:nn:ss"_s),
+              u"13:04:23"_s);
     EXPECT_EQ(VbFormat::fromDateSerial(36526.5), (TimeBase::CalendarTime{2000, 1, 1, 12, 0, 0}));
-    EXPECT_EQ(VbFormat::formatSeconds(86400 * 60 + 3661, QStringLiteral("yyyy-mm-dd hh:nn:ss")),
-              QLatin1String("2000-03-01 01:01:01"));
+    EXPECT_EQ(VbFormat::formatSeconds(86400 * 60 + 3661, u"yyyy-mm-dd hh:nn:ss"_s),
+              u"2000-03-01 01:01:01"_s);
 }
 
 } // namespace

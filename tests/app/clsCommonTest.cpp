@@ -4,58 +4,53 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-LocaleInfo locale(int dateOrder, const char* dateSep, const char* timeSep, const char* decimal) {
+clsConst withLocale(int dateOrder, const QString& dateSep, const QString& timeSep,
+                    const QString& decimal) {
     LocaleInfo info;
     info.dateOrder = dateOrder;
-    info.dateSep = QLatin1String(dateSep);
-    info.timeSep = QLatin1String(timeSep);
-    info.decimalSep = QLatin1String(decimal);
-    info.thousandSep = QStringLiteral(" ");
-    return info;
+    info.dateSep = dateSep;
+    info.timeSep = timeSep;
+    info.decimalSep = decimal;
+    info.thousandSep = u" "_s;
+    return clsConst(info);
 }
 
-TEST(clsConst, TakesTheLocaleSeparatorsThroughFormatting) {
-    const clsConst c(locale(1, ".", ".", ","));
-    EXPECT_EQ(c.DecimalSeparator(), QLatin1String(","));
-    EXPECT_EQ(c.TimeSeparator(), QLatin1String("."));
-    EXPECT_EQ(c.DateSeparator(), QLatin1String("."));
-    EXPECT_EQ(c.DateDisplayOrder(), 1);
+TEST(clsCommon, PatternsCarryTheLocaleSeparators) {
+    const clsConst c = withLocale(2, u"-"_s, u"."_s, u","_s);
+    EXPECT_EQ(c.DecimalSeparator(), u","_s);
     EXPECT_EQ(c.BackGroundColor(), 0xE1FFFFu);
-    const char* formats[] = {"#######0", "#####0.0", "####0.00", "###0.000", "##0.0000"};
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(c.DecimalFormat(i), QLatin1String(formats[i]));
-    EXPECT_EQ(c.DecimalFormat(5), QString());
+    const char* formats[] = {"#######0", "#####0.0", "####0.00", "###0.000", "##0.0000", ""};
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(c.DecimalFormat(i), QLatin1String(formats[i]));
     EXPECT_EQ(c.DecimalFormat(-1), QString());
-}
 
-TEST(clsCommon, PatternListsCarryTheLocaleSeparators) {
-    const clsConst ymd(locale(2, "-", ".", ","));
-    const clsCommon common(ymd);
-    EXPECT_EQ(common.GetLongDateFormat(-1), QLatin1String("yyyy-mm-dd"));
-    EXPECT_EQ(common.GetShortDateFormat(-1), QLatin1String("yy-mm-dd"));
-    EXPECT_EQ(common.GetLongDateFormat(1), QLatin1String("mm-dd-yyyy"));
-    EXPECT_EQ(common.GetShortDateFormat(2), QLatin1String("dd-mm-yy"));
+    const clsCommon common(c);
+    EXPECT_EQ(common.GetLongDateFormat(-1), u"yyyy-mm-dd"_s);
+    EXPECT_EQ(common.GetShortDateFormat(-1), u"yy-mm-dd"_s);
+    EXPECT_EQ(common.GetLongDateFormat(1), u"mm-dd-yyyy"_s);
+    EXPECT_EQ(common.GetShortDateFormat(2), u"dd-mm-yy"_s);
     EXPECT_EQ(common.GetLongDateFormat(4), QString());
     EXPECT_EQ(common.getShortDateDisplayOrder(), 3);
-    const char* times[] = {"h.nn", "hh.nn", "h.n.s", "h.nn.ss", "hh.nn.ss"};
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(common.GetTimeFormat(i + 1), QLatin1String(times[i]));
-    EXPECT_EQ(common.GetTimeFormat(0), QString());
-    EXPECT_EQ(common.GetFormattedTime(4, 9, 5, 7), QLatin1String("9.05.07"));
-    EXPECT_EQ(common.GetFormattedTime(5, 13, 0, 9), QLatin1String("13.00.09"));
+    const char* times[] = {"", "h.nn", "hh.nn", "h.n.s", "h.nn.ss", "hh.nn.ss"};
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(common.GetTimeFormat(i), QLatin1String(times[i]));
+    EXPECT_EQ(common.GetFormattedTime(4, 9, 5, 7), u"9.05.07"_s);
+    EXPECT_EQ(common.GetFormattedTime(5, 13, 0, 9), u"13.00.09"_s);
 
-    const clsCommon mdy{clsConst(locale(0, "/", ":", "."))};
-    EXPECT_EQ(mdy.GetLongDateFormat(-1), QLatin1String("mm/dd/yyyy"));
-    EXPECT_EQ(mdy.GetFormattedTime(3, 9, 5, 7), QLatin1String("9:5:7"));
+    const clsCommon mdy(withLocale(0, u"/"_s, u":"_s, u"."_s));
+    EXPECT_EQ(mdy.GetLongDateFormat(-1), u"mm/dd/yyyy"_s);
+    EXPECT_EQ(mdy.GetFormattedTime(3, 9, 5, 7), u"9:5:7"_s);
+    const clsCommon dmy(withLocale(1, u"."_s, u"."_s, u","_s));
+    EXPECT_EQ(dmy.GetLongDateFormat(-1), u"dd.mm.yyyy"_s);
 }
 
 TEST(clsCommon, IsReadableComparesPhasesOfTheInterval) {
     const qint64 t = TimeBase::toSeconds({2024, 1, 1, 1, 3, 10});
     const struct {
-        qint64 interval;
-        qint64 t2;
-        int ms1;
-        int ms2;
+        qint64 interval, t2;
+        int ms1, ms2;
         bool readable;
     } cases[] = {
         {500, t, 100, 600, true}, // milliseconds below one second
@@ -80,7 +75,7 @@ TEST(clsCommon, IsReadableComparesPhasesOfTheInterval) {
     }
     int error = 0;
     EXPECT_FALSE(clsCommon::IsReadable(0, t, t, 0, 0, &error));
-    EXPECT_EQ(error, clsCommon::kInvalidArgument);
+    EXPECT_EQ(error, 5);
 }
 
 } // namespace

@@ -8,44 +8,43 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A log object that keeps what it is given; `acceptPutLog` false makes putLog fail.
 class MemoryLog final : public LogObject {
 public:
-    explicit MemoryLog(bool acceptPutLog) : accept_(acceptPutLog) {}
+    explicit MemoryLog(bool acceptPutLog) : accept(acceptPutLog) {}
     bool LogWrite(const QString& text) override {
         written.append(text);
         return true;
     }
     bool putLog(const void* sender, int level, const QString& text) override {
-        if (!accept_) return false;
+        if (!accept) return false;
+        put.append(QString::number(level) + u' ' + text);
         senders.append(sender);
-        put.append(QString::number(level) + QLatin1Char(' ') + text);
         return true;
     }
-    QStringList written;
-    QStringList put;
+    bool accept;
+    QStringList written, put;
     QList<const void*> senders;
-
-private:
-    bool accept_;
 };
 
 class IniTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(dir.isValid());
         ASSERT_TRUE(ini.setIniPath(dir.path()));
-        ASSERT_EQ(ini.setIniFileName(QStringLiteral("test.ini")), 0);
+        ASSERT_EQ(ini.setIniFileName(u"test.ini"_s), 0);
     }
-    void write(const char* text) {
-        ASSERT_TRUE(TextFile::writeAtomically(path(), QByteArray(text)));
-    }
-    QString path() const { return dir.path() + QStringLiteral("/test.ini"); }
+    void write(const char* text) { ASSERT_TRUE(TextFile::writeAtomically(path(), text)); }
+    QString path() const { return dir.path() + u"/test.ini"_s; }
     QString content() const {
         QFile f(path());
         return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+    }
+    QString get(const QString& key, const QString& fallback, bool noWriteBack = false) {
+        return ini.getIniData(u"S"_s, key, fallback, noWriteBack);
     }
 
     QTemporaryDir dir;
@@ -53,119 +52,104 @@ protected:
 };
 
 TEST_F(IniTest, AbsentKeyGivesTheDefaultAndWritesItBackUnlessTold) {
-    EXPECT_EQ(ini.getIniData(QStringLiteral("Main"), QStringLiteral("Size"), QStringLiteral("12")),
-              QLatin1String("12"));
-    EXPECT_EQ(content(), QLatin1String("[Main]\nSize=12\n"));
-    EXPECT_EQ(
-        ini.getIniData(QStringLiteral("Main"), QStringLiteral("Other"), QStringLiteral("x"), true),
-        QLatin1String("x"));
-    EXPECT_EQ(content(), QLatin1String("[Main]\nSize=12\n"));
+    EXPECT_EQ(get(u"Size"_s, u"12"_s), u"12"_s);
+    EXPECT_EQ(content(), u"[S]\nSize=12\n"_s);
+    EXPECT_EQ(get(u"Other"_s, u"x"_s, true), u"x"_s);
+    EXPECT_EQ(content(), u"[S]\nSize=12\n"_s);
 }
 
 TEST_F(IniTest, LookupIgnoresCaseAndKeepsOtherLines) {
     write("; settings\r\n[Main]\r\nSize = 7 \r\n\r\n[Next]\r\nA=1\r\n");
-    EXPECT_EQ(ini.getIniData(QStringLiteral("MAIN"), QStringLiteral("size"), QStringLiteral("0")),
-              QLatin1String("7"));
-    ini.putIniData(QStringLiteral("main"), QStringLiteral("Color"), QStringLiteral("red"));
-    ini.putIniData(QStringLiteral("New"), QStringLiteral("On"), true);
-    ini.putIniData(QStringLiteral("New"), QStringLiteral("Ratio"), 2.5);
-    EXPECT_EQ(content(), QLatin1String("; settings\r\n[Main]\r\nSize = 7 \r\nColor=red\r\n\r\n"
-                                       "[Next]\r\nA=1\r\n[New]\r\nOn=True\r\nRatio=2.5\r\n"));
-    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{QStringLiteral("test.ini")});
+    EXPECT_EQ(ini.getIniData(u"MAIN"_s, u"size"_s, u"0"_s), u"7"_s);
+    ini.putIniData(u"main"_s, u"Color"_s, u"red"_s);
+    ini.putIniData(u"New"_s, u"On"_s, true);
+    ini.putIniData(u"New"_s, u"Ratio"_s, 2.5);
+    EXPECT_EQ(content(), u"; settings\r\n[Main]\r\nSize = 7 \r\nColor=red\r\n\r\n"
+                         u"[Next]\r\nA=1\r\n[New]\r\nOn=True\r\nRatio=2.5\r\n"_s);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList{u"test.ini"_s});
 }
 
 TEST_F(IniTest, VbBlankReadsEmptyAndEmptyReadsAsAbsent) {
     write("[S]\nBlank= vbBlank \nEmpty=\n");
-    EXPECT_EQ(ini.getIniData(QStringLiteral("S"), QStringLiteral("Blank"), QStringLiteral("d")),
-              QString());
-    EXPECT_TRUE(content().contains(QLatin1String("Blank= vbBlank"))); // no write back
+    EXPECT_EQ(get(u"Blank"_s, u"d"_s), QString());
+    EXPECT_TRUE(content().contains(u"Blank= vbBlank"_s)); // no write back
     // An empty default equals the empty result: written back.
-    EXPECT_EQ(ini.getIniData(QStringLiteral("S"), QStringLiteral("Blank"), QString()), QString());
-    EXPECT_FALSE(content().contains(QLatin1String("vbBlank")));
+    EXPECT_EQ(get(u"Blank"_s, QString()), QString());
+    EXPECT_FALSE(content().contains(u"vbBlank"_s));
     // A key with an empty value reads as absent: the default, written back.
-    EXPECT_EQ(ini.getIniData(QStringLiteral("S"), QStringLiteral("Empty"), QStringLiteral("5")),
-              QLatin1String("5"));
-    EXPECT_TRUE(content().contains(QLatin1String("Empty=5")));
+    EXPECT_EQ(get(u"Empty"_s, u"5"_s), u"5"_s);
+    EXPECT_TRUE(content().contains(u"Empty=5"_s));
 }
 
 TEST_F(IniTest, ValuesAreCutToBufferSizeLessOne) {
-    const QString longValue(600, QLatin1Char('a'));
-    ini.putIniData(QStringLiteral("S"), QStringLiteral("Long"), longValue);
-    EXPECT_EQ(ini.getIniData(QStringLiteral("S"), QStringLiteral("Long"), QString()).size(), 511);
+    const QString longValue(600, u'a');
+    ini.putIniData(u"S"_s, u"Long"_s, longValue);
+    EXPECT_EQ(get(u"Long"_s, QString()).size(), 511);
     ini.setBufferSize(10);
-    EXPECT_EQ(ini.getIniData(QStringLiteral("S"), QStringLiteral("Long"), QString()),
-              QString(9, QLatin1Char('a')));
+    EXPECT_EQ(get(u"Long"_s, QString()), QString(9, u'a'));
     // A default longer than the buffer is cut too, so it no longer equals the default and is
     // not written back.
     ini.setBufferSize(512);
-    EXPECT_EQ(ini.getIniData(QStringLiteral("S"), QStringLiteral("New"), longValue).size(), 511);
-    EXPECT_FALSE(content().contains(QLatin1String("New=")));
+    EXPECT_EQ(get(u"New"_s, longValue).size(), 511);
+    EXPECT_FALSE(content().contains(u"New="_s));
 }
 
 TEST_F(IniTest, SectionsAreEnumeratedAndCleared) {
     write("[Empty]\n[List]\nA=1\nB=\nC=x=y\n; note\n[Other]\nD=4\n");
     QStringList lines;
-    EXPECT_EQ(ini.enumSectionString(QStringLiteral("Empty"), lines), -1);
-    EXPECT_EQ(ini.enumSectionString(QStringLiteral("Missing"), lines), -1);
-    EXPECT_EQ(ini.enumSectionString(QStringLiteral("list"), lines), 3);
-    EXPECT_EQ(lines,
-              (QStringList{QStringLiteral("A=1"), QStringLiteral("B="), QStringLiteral("C=x=y")}));
-    EXPECT_EQ(ini.clearSection(QStringLiteral("Empty")), 0);
-    EXPECT_EQ(ini.clearSection(QStringLiteral("List")), 2);
-    EXPECT_EQ(content(), QLatin1String("[Empty]\n[List]\nA=\nB=\nC=\n; note\n[Other]\nD=4\n"));
-    EXPECT_EQ(ini.clearSection(QStringLiteral("List")), 0);
+    EXPECT_EQ(ini.enumSectionString(u"Empty"_s, lines), -1);
+    EXPECT_EQ(ini.enumSectionString(u"Missing"_s, lines), -1);
+    EXPECT_EQ(ini.enumSectionString(u"list"_s, lines), 3);
+    EXPECT_EQ(lines, (QStringList{u"A=1"_s, u"B="_s, u"C=x=y"_s}));
+    EXPECT_EQ(ini.clearSection(u"Empty"_s), 0);
+    EXPECT_EQ(ini.clearSection(u"List"_s), 2);
+    EXPECT_EQ(content(), u"[Empty]\n[List]\nA=\nB=\nC=\n; note\n[Other]\nD=4\n"_s);
+    EXPECT_EQ(ini.clearSection(u"List"_s), 0);
 }
 
-TEST_F(IniTest, FileNamesWithReservedCharactersAreRefused) {
-    for (const char* bad : {"a\\b", "a/b", "c:", "*.ini", "a?", "\"q\"", "<", ">", "a|b"}) {
-        EXPECT_EQ(ini.setIniFileName(QLatin1String(bad)), clsINI::kBadFileName) << bad;
-        EXPECT_EQ(ini.IniFileName(), QLatin1String("test.ini"));
-    }
+TEST_F(IniTest, FileNamesWithReservedCharactersAndPlainFilesAsPathsAreRefused) {
+    for (const char* bad : {"a\\b", "a/b", "c:", "*.ini", "a?", "\"q\"", "<", ">", "a|b"})
+        EXPECT_EQ(ini.setIniFileName(QLatin1String(bad)), 52) << bad;
     EXPECT_EQ(ini.setIniFileName(QString()), 0);
-    EXPECT_EQ(ini.IniFileName(), QLatin1String("test.ini"));
-}
+    EXPECT_EQ(ini.IniFileName(), u"test.ini"_s);
 
-TEST_F(IniTest, PathsRefuseOnlyPlainFiles) {
     const QString base = dir.path();
     write("[x]\n");
     EXPECT_FALSE(ini.setIniPath(path()));
-    EXPECT_EQ(ini.IniPath(), base + QLatin1Char('/'));
+    EXPECT_EQ(ini.IniPath(), base + u'/');
     EXPECT_FALSE(ini.setIniPath(QString()));
-    EXPECT_TRUE(ini.setIniPath(base + QStringLiteral("/not/yet//")));
-    EXPECT_EQ(ini.IniPath(), base + QStringLiteral("/not/yet/"));
-    EXPECT_TRUE(ini.setIniPath(QStringLiteral("///")));
-    EXPECT_EQ(ini.IniPath(), QLatin1String("/"));
+    EXPECT_TRUE(ini.setIniPath(base + u"/not/yet//"_s));
+    EXPECT_EQ(ini.IniPath(), base + u"/not/yet/"_s);
+    EXPECT_TRUE(ini.setIniPath(u"///"_s));
+    EXPECT_EQ(ini.IniPath(), u"/"_s);
 }
 
 TEST_F(IniTest, FailuresGoToTheLogObjectWithTheirMark) {
-    ASSERT_TRUE(ini.setIniPath(dir.path() + QStringLiteral("/missing")));
-    MemoryLog log(true);
+    ASSERT_TRUE(ini.setIniPath(dir.path() + u"/missing"_s));
+    MemoryLog log(true), refusing(false);
     ini.setErrorLogObj(&log);
-    ini.putIniData(QStringLiteral("S"), QStringLiteral("K"), 1);
+    ini.putIniData(u"S"_s, u"K"_s, 1);
     ASSERT_EQ(log.put.size(), 1);
-    EXPECT_TRUE(log.put[0].startsWith(QStringLiteral("3 Exception:\u3000556->")))
-        << log.put[0].toStdString();
+    EXPECT_TRUE(log.put[0].startsWith(u"3 Exception:\u3000556->"_s)) << log.put[0].toStdString();
     EXPECT_EQ(log.senders[0], &ini);
 
-    MemoryLog refusing(false);
     ini.setErrorLogObj(&refusing);
-    ini.putIniData(QStringLiteral("S"), QStringLiteral("K"), 1);
+    ini.putIniData(u"S"_s, u"K"_s, 1);
     ASSERT_EQ(refusing.written.size(), 1);
-    EXPECT_TRUE(
-        refusing.written[0].startsWith(QStringLiteral("clsINI Exception error :\u3000556->")));
+    EXPECT_TRUE(refusing.written[0].startsWith(u"clsINI Exception error :\u3000556->"_s));
 
+    // Without a log object the failure goes to LogWrite; the result is left as it was.
     QStringList fallback;
     setLogWriteHandler([&](const QString& text) { fallback.append(text); });
     ini.setErrorLogObj(nullptr);
-    ASSERT_TRUE(ini.setIniPath(dir.path()));
-    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("adir")));
-    ASSERT_EQ(ini.setIniFileName(QStringLiteral("adir")), 0);
-    QString result = QStringLiteral("kept");
-    ini.getIniData(QStringLiteral("S"), QStringLiteral("K"), QStringLiteral("d"), false, result);
+    ASSERT_TRUE(ini.setIniPath(dir.path()) && QDir(dir.path()).mkdir(u"adir"_s));
+    ASSERT_EQ(ini.setIniFileName(u"adir"_s), 0);
+    QString result = u"kept"_s;
+    ini.getIniData(u"S"_s, u"K"_s, u"d"_s, false, result);
     setLogWriteHandler({});
-    EXPECT_EQ(result, QLatin1String("kept"));
+    EXPECT_EQ(result, u"kept"_s);
     ASSERT_EQ(fallback.size(), 1);
-    EXPECT_TRUE(fallback[0].startsWith(QStringLiteral("clsINI Exception error :\u3000759->")));
+    EXPECT_TRUE(fallback[0].startsWith(u"clsINI Exception error :\u3000759->"_s));
 }
 
 } // namespace
