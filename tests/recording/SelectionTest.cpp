@@ -38,22 +38,15 @@ TEST(CommandLineTokens, QuotedAndBlankForms) {
     EXPECT_TRUE(CommandFiles::tokens(QString()).isEmpty());
 }
 
-TEST_F(Selection, CommandLineDropsAFileOfAnotherInterval) {
+TEST_F(Selection, CommandLineDropsOtherIntervalsMagicsAndFamilies) {
     const QString a = vxf("a.vxf", 100), b = vxf("b.vxf", 200, 20), c = vxf("c.VXF", 300);
-    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({a, b, c}), false, sel);
+    const QString wrongMagic = junk("w.vxf");
+    const QString qdf = dir.write("q.qdf", QByteArray("QD30") + QByteArray(300, '\0'));
+    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({wrongMagic, a, b, qdf, c}),
+                                    false, sel);
     EXPECT_EQ(sel.SelFileName, QVector<QString>({a, c}));
     EXPECT_EQ(sel.SelStart, QVector<qint64>({100, 300}));
     EXPECT_EQ(sel.SelInterval, 1000);
-    EXPECT_EQ(sel.SelFileType, Family::VXF);
-}
-
-TEST_F(Selection, CommandLineKindsRefuseMixedFamilies) {
-    const QString a = vxf("a.vxf", 100);
-    const QString wrongMagic = junk("w.vxf");
-    const QString qdf = dir.write("q.qdf", QByteArray("QD30") + QByteArray(300, '\0'));
-    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({wrongMagic, a, qdf}), false,
-                                    sel);
-    EXPECT_EQ(sel.SelFileName, QVector<QString>({a}));
     EXPECT_EQ(sel.SelFileType, Family::VXF);
 }
 
