@@ -13,11 +13,13 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kColumnCount = 9;
 constexpr int kMaxTextLength = 100;
-const QString kMarker = QStringLiteral("<<VX>>");
+const QString kMarker = u"<<VX>>"_s;
 
 struct Language {
     int column; // 1-based column of the table
@@ -49,7 +51,7 @@ QString sourceRoot() {
 #else
     QDir dir(QDir::currentPath());
     do {
-        if (dir.exists(QStringLiteral("data/langVX.txt"))) return dir.absolutePath();
+        if (dir.exists(u"data/langVX.txt"_s)) return dir.absolutePath();
     } while (dir.cdUp());
     return {};
 #endif
@@ -70,13 +72,13 @@ struct LanguageTable {
 
 LanguageTable loadTable() {
     LanguageTable table;
-    QFile file(sourceRoot() + QStringLiteral("/data/langVX.txt"));
+    QFile file(sourceRoot() + u"/data/langVX.txt"_s);
     if (!file.open(QIODevice::ReadOnly)) return table;
     table.bytes = file.readAll();
     QString content = QString::fromUtf8(table.bytes);
-    if (content.endsWith(QLatin1Char('\n'))) content.chop(1);
-    for (const QString& line : content.split(QLatin1Char('\n'))) {
-        table.rows.push_back(line.split(QLatin1Char('\t')));
+    if (content.endsWith(u'\n')) content.chop(1);
+    for (const QString& line : content.split(u'\n')) {
+        table.rows.push_back(line.split(u'\t'));
         if (table.markerRow == 0 && table.rows.back().first() == kMarker)
             table.markerRow = static_cast<int>(table.rows.size());
     }
@@ -93,9 +95,8 @@ const LanguageTable& table() {
 std::map<int, QString> messagesOfTheCode() {
     static const QRegularExpression use(QStringLiteral(R"(\b(?:MsgText|MsgId)\(\s*(\d+)\s*\))"));
     std::map<int, QString> found;
-    const QString src = sourceRoot() + QStringLiteral("/src");
-    QDirIterator it(src, {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
-                    QDirIterator::Subdirectories);
+    const QString src = sourceRoot() + u"/src"_s;
+    QDirIterator it(src, {u"*.cpp"_s, u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         QFile file(it.next());
         if (!file.open(QIODevice::ReadOnly)) continue;
@@ -112,9 +113,8 @@ QStringList missingTexts(const std::map<int, QString>& messages) {
     for (const auto& [message, where] : messages)
         for (const Language& language : kLanguages)
             if (table().text(message, language.column).isEmpty())
-                missing << QStringLiteral("%1 (%2, used in %3)")
-                               .arg(message)
-                               .arg(QLatin1String(language.name), where);
+                missing << u"%1 (%2, used in %3)"_s.arg(message).arg(QLatin1String(language.name),
+                                                                     where);
     return missing;
 }
 
@@ -181,15 +181,15 @@ TEST(LanguageTableFile, JapaneseTextsAreTheWordsTheWindowsShow) {
 TEST(LanguageTableFile, EveryMessageOfTheWindowsHasATextInEachLanguage) {
     std::map<int, QString> messages;
     for (const auto& [from, to] : kMessagesInUse)
-        for (int n = from; n <= to; ++n) messages.emplace(n, QStringLiteral("the windows"));
+        for (int n = from; n <= to; ++n) messages.emplace(n, u"the windows"_s);
     const QStringList missing = missingTexts(messages);
-    EXPECT_TRUE(missing.isEmpty()) << qPrintable(missing.join(QStringLiteral("\n")));
+    EXPECT_TRUE(missing.isEmpty()) << qPrintable(missing.join(u"\n"_s));
 }
 
 TEST(LanguageTableFile, EveryMessageOfTheCodeHasATextInEachLanguage) {
-    ASSERT_TRUE(QDir(sourceRoot() + QStringLiteral("/src")).exists());
+    ASSERT_TRUE(QDir(sourceRoot() + u"/src"_s).exists());
     const QStringList missing = missingTexts(messagesOfTheCode());
-    EXPECT_TRUE(missing.isEmpty()) << qPrintable(missing.join(QStringLiteral("\n")));
+    EXPECT_TRUE(missing.isEmpty()) << qPrintable(missing.join(u"\n"_s));
 }
 
 } // namespace

@@ -32,7 +32,8 @@ TEST(NumberText, DoubleTextUsesShortestOf15Digits) {
         {9.9999999999999999, "10"},
         {1234.5, "1234.5"},
     };
-    for (const Case& c : cases) EXPECT_EQ(NumberText::doubleText(c.value), QLatin1String(c.text)) << c.value;
+    for (const Case& c : cases)
+        EXPECT_EQ(NumberText::doubleText(c.value), QLatin1String(c.text)) << c.value;
 }
 
 TEST(NumberText, SingleTextUsesSevenDigits) {

@@ -8,8 +8,8 @@ using TimeBase::CalendarTime;
 
 TEST(TimeBase, CalendarRoundTrips) {
     const CalendarTime cases[] = {
-        {2000, 1, 1, 0, 0, 0},    {2000, 2, 29, 23, 59, 59}, {2001, 3, 1, 0, 0, 0},
-        {2024, 2, 29, 12, 0, 0},  {2038, 1, 19, 3, 14, 8},   {2100, 3, 1, 0, 0, 0},
+        {2000, 1, 1, 0, 0, 0},      {2000, 2, 29, 23, 59, 59}, {2001, 3, 1, 0, 0, 0},
+        {2024, 2, 29, 12, 0, 0},    {2038, 1, 19, 3, 14, 8},   {2100, 3, 1, 0, 0, 0},
         {1999, 12, 31, 23, 59, 59}, {2106, 2, 7, 6, 28, 16},
     };
     for (const CalendarTime& t : cases) EXPECT_EQ(TimeBase::fromSeconds(TimeBase::toSeconds(t)), t);
