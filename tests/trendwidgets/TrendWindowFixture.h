@@ -7,8 +7,8 @@
 #include "support/RecordingFixture.h"
 #include "support/RecordingMessageSink.h"
 #include "support/VxfWriter.h"
-#include "trend/TrendView.h"
 #include "trend/TrendCursors.h"
+#include "trend/TrendView.h"
 #include "trend/widgets/frmScrollTime.h"
 
 #include <QApplication>
@@ -63,6 +63,12 @@ struct LoadedWindow {
         mouse(QEvent::MouseMove, Qt::NoButton, (from + to) / 2);
         mouse(QEvent::MouseMove, Qt::NoButton, to);
         mouse(QEvent::MouseButtonRelease, button, to);
+    }
+    // A left drag along the plot's middle row between fractions of its width.
+    void band(double from, double to) {
+        const QRectF p = plot();
+        drag(Qt::LeftButton, QPointF(p.left() + p.width() * from, p.center().y()),
+             QPointF(p.left() + p.width() * to, p.center().y()));
     }
 
     RecordingMessageSink sink;
