@@ -129,7 +129,6 @@ TEST(AlarmMarks, FreshLoadResetsShow) {
     AlarmView v(ramp(5), {"0100"});
     AlarmMarks marks = v.marks();
     ASSERT_TRUE(marks.afterSavedWorkLoad(true));
-    EXPECT_TRUE(AlarmMarks::ShowAlarmMarks(6));
     EXPECT_EQ(v.styles().size(), 1u);
     ASSERT_TRUE(marks.afterLoad());
     EXPECT_FALSE(AlarmMarks::ShowAlarmMarks(6));

@@ -12,8 +12,8 @@ constexpr int kB = 3;
 
 } // namespace
 
-// Buttons 6 and 7: one turns the other off; both off ends the tracking marker and gives the
-// X band zoom back.
+// Buttons 6 and 7: one turns the other off; both off ends the tracking marker, gives the X band
+// zoom back and makes clicks place nothing.
 TEST(TrendCursors, ButtonsExcludeEachOtherAndStyleTheMarker) {
     CursorView v(3, {ramp(50)});
     TrendCursors& c = v.cursors;
@@ -35,10 +35,13 @@ TEST(TrendCursors, ButtonsExcludeEachOtherAndStyleTheMarker) {
     EXPECT_FALSE(c.marker().tracking);
     EXPECT_TRUE(v.view.zoom().canStartBand(false));
     EXPECT_FALSE(c.command(5));
+    c.mouseMove(v.geometry(), v.inPlot(0.5, 0.5));
+    EXPECT_FALSE(c.click(v.geometry())) << "both buttons off";
 }
 
 // A click places the active cursor on the nearest point along X; left of the first and right
 // of the last sample it lands on that end. The line spans the Y range in the cursor's series.
+// Outside the chart area a click places nothing.
 TEST(TrendCursors, ClickPlacesOnNearestPointAndEnds) {
     CursorView v(3, {ramp(50, 10)});
     ChartModel& chart = v.view.chart();
@@ -61,20 +64,12 @@ TEST(TrendCursors, ClickPlacesOnNearestPointAndEnds) {
     EXPECT_EQ(chart.Y(kA, 2), chart.axisY().max());
     EXPECT_EQ(chart.displayState(kA), Chart::kDisplayShown);
     EXPECT_EQ(chart.displayState(kB), Chart::kDisplayHidden);
+    v.cursors.mouseMove(v.geometry(), QPointF(1, 1)); // the chart's corner, outside the area
+    EXPECT_FALSE(v.cursors.click(v.geometry()));
 }
 
-// Clicks that place nothing: outside the chart area, with both buttons off, and with a hole at
-// point 1 of series 1, which blocks placing but still updates the bar chart.
-TEST(TrendCursors, ClicksThatPlaceNothing) {
-    CursorView v(3, {ramp(50)});
-    const ChartGeometry g = v.geometry();
-    v.cursors.mouseMove(g, v.inPlot(0.5, 0.5));
-    EXPECT_FALSE(v.cursors.click(g)); // both buttons off
-    v.cursors.command(7);
-    v.cursors.mouseMove(g, QPointF(1, 1)); // the chart's corner, outside the chart area
-    EXPECT_FALSE(v.cursors.click(g));
-    EXPECT_EQ(v.view.state().CursorPoint[1], 0);
-
+// A hole at point 1 of series 1 blocks placing but still updates the bar chart.
+TEST(TrendCursors, HoleAtFirstPointPlacesNothing) {
     CursorView holed(4, {{kBurn, 5, 6, 7}});
     int barUpdates = 0;
     holed.cursors.barUpdate = [&](int cursor) { barUpdates += cursor; };

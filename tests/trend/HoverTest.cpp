@@ -1,5 +1,4 @@
 #include "CursorTestSupport.h"
-#include "app/LanguageTable.h"
 #include "trend/HoverReadout.h"
 
 #include <gtest/gtest.h>
@@ -12,27 +11,26 @@ namespace {
 // A view of two channels on a fixed Y axis of 0..100 over points 1..11.
 struct HoverView : CursorView {
     HoverView() : CursorView(5, {ramp(11, 10), {90, 90, 90, kBurn, 90, 90, 90, 90, 90, 90, 90}}) {
-        ChartModel& chart = view.chart();
-        chart.axisY().setMin(0);
-        chart.axisY().setMax(100);
+        view.chart().axisY().setMin(0);
+        view.chart().axisY().setMax(100);
     }
-    std::optional<HoverText> at(double fx, double fy) {
-        return HoverReadout::at(view, geometry(), inPlot(fx, fy));
+    std::optional<HoverText> at(double fx, double fy, bool banding = false) {
+        return HoverReadout::at(view, geometry(), inPlot(fx, fy), banding);
     }
 };
 
 } // namespace
 
 // The value under the mouse, the point under it and the nearest channel with its tag, value
-// and unit; a channel with a hole there shows its status word.
+// and unit; a channel with a hole there shows its status word. Exponent channels show a "#0"
+// mantissa and three exponent digits.
 TEST(HoverReadout, ValuePointAndNearestChannel) {
     HoverView v;
-    const SampleTime t3 = SampleTimeText(2, 5);
     const std::optional<HoverText> low = v.at(0.2, 0.15);
     ASSERT_TRUE(low);
     EXPECT_EQ(low->point, 3);
     EXPECT_NEAR(low->value, 15, 0.5);
-    EXPECT_EQ(low->text, t3.dateTime + QStringLiteral("\nCH1\n15\n[degC]"));
+    EXPECT_EQ(low->text, SampleTimeText(2, 5).dateTime + QStringLiteral("\nCH1\n15\n[degC]"));
     EXPECT_EQ(v.at(0.2, 0.85)->channel, 2);
     const std::optional<HoverText> hole = v.at(0.3, 0.85);
     ASSERT_TRUE(hole);
@@ -40,14 +38,30 @@ TEST(HoverReadout, ValuePointAndNearestChannel) {
     EXPECT_EQ(hole->channel, 1); // channel 2 has no value at point 4
     v.view.chart().setDisplayState(1, Chart::kDisplayHidden);
     EXPECT_EQ(v.at(0.3, 0.85)->text.section(QLatin1Char('\n'), 2, 2), QStringLiteral("BURN"));
+
+    views(5).Channels.ChExpDigits[1] = 3;
+    EXPECT_EQ(HoverReadout::valueText(v.view, 1, 1234.5), shown(QStringLiteral("1.23E+003")));
+    views(5).Channels.ChExpDigits[1] = 0;
+    EXPECT_EQ(HoverReadout::valueText(v.view, 1, 12.6), QStringLiteral("13"));
 }
 
-// Reversed Y mirrors the value; a bound channel turns percent into its units.
-TEST(HoverReadout, ReversedAxisAndBoundChannel) {
+// Reversed Y mirrors the value; a bound channel turns percent into its units. No readout on a
+// logarithmic Y, during a band, outside the plot, or on a circular chart.
+TEST(HoverReadout, AxisKindsAndNothingToShow) {
     HoverView v;
-    v.view.chart().axisY().setReversed(true);
+    ChartModel& chart = v.view.chart();
+    chart.axisY().setReversed(true);
     EXPECT_NEAR(v.at(0.5, 0.25)->value, 75, 0.5);
-    v.view.chart().axisY().setReversed(false);
+    chart.axisY().setReversed(false);
+
+    EXPECT_FALSE(v.at(0.5, 0.5, true));
+    EXPECT_FALSE(v.at(1.2, 0.5));
+    chart.axisY().setLogarithmic(true);
+    EXPECT_FALSE(v.at(0.5, 0.5));
+    chart.axisY().setLogarithmic(false);
+    chart.setChartType(Chart::kTypePolar);
+    EXPECT_FALSE(v.at(0.5, 0.5));
+    chart.setChartType(Chart::kTypePlot);
 
     TrendViewState& st = v.view.state();
     st.ScaleType = 1;
@@ -57,28 +71,4 @@ TEST(HoverReadout, ReversedAxisAndBoundChannel) {
     st.Lines[2].scaleHigh = QStringLiteral("300");
     EXPECT_NEAR(v.at(0.5, 0.5)->value, 100, 2);
     EXPECT_NEAR(v.at(0.5, 0.25)->value, 0, 2);
-}
-
-// No readout on a logarithmic Y, during a band, outside the plot, or on a circular chart.
-TEST(HoverReadout, NothingToShow) {
-    HoverView v;
-    ChartModel& chart = v.view.chart();
-    EXPECT_FALSE(HoverReadout::at(v.view, v.geometry(), v.inPlot(0.5, 0.5), true));
-    EXPECT_FALSE(HoverReadout::at(v.view, v.geometry(), v.inPlot(1.2, 0.5)));
-    chart.axisY().setLogarithmic(true);
-    EXPECT_FALSE(v.at(0.5, 0.5));
-    chart.axisY().setLogarithmic(false);
-    chart.setChartType(Chart::kTypePolar);
-    EXPECT_FALSE(v.at(0.5, 0.5));
-    chart.setChartType(Chart::kTypePlot);
-    EXPECT_TRUE(v.at(0.5, 0.5));
-}
-
-// Exponent channels show the value with a "#0" mantissa and three exponent digits.
-TEST(HoverReadout, ExponentValueText) {
-    HoverView v;
-    views(5).Channels.ChExpDigits[1] = 3;
-    EXPECT_EQ(HoverReadout::valueText(v.view, 1, 1234.5), shown(QStringLiteral("1.23E+003")));
-    views(5).Channels.ChExpDigits[1] = 0;
-    EXPECT_EQ(HoverReadout::valueText(v.view, 1, 12.6), QStringLiteral("13"));
 }

@@ -68,8 +68,7 @@ TEST(TrendZoom, StackLimitsAndDrops) {
     EXPECT_EQ(st.ZoomLevel, 0);
     ASSERT_TRUE(v.zoom().zoomX(300, 100));
     EXPECT_EQ(st.ZoomLevel, 1);
-    EXPECT_EQ(st.ZoomX[1][1], 100);
-    EXPECT_EQ(st.ZoomX[1][2], 300);
+    EXPECT_EQ(std::make_pair(st.ZoomX[1][1], st.ZoomX[1][2]), std::make_pair(100, 300));
     EXPECT_TRUE(v.window().hsbTrendGraph.Enabled);
     EXPECT_FALSE(v.zoom().zoomY(5, 5)) << "a Y band with no height";
     EXPECT_EQ(st.ZoomLevel, 1);
@@ -103,8 +102,7 @@ TEST(TrendZoom, BackAndYOnlyZoom) {
     EXPECT_FALSE(v.window().hsbTrendGraph.Enabled);
     v.command(1);
     EXPECT_EQ(v.state().ZoomLevel, 0);
-    EXPECT_FALSE(v.window().Toolbar2Enabled[1]);
-    EXPECT_FALSE(v.window().Toolbar2Enabled[2]);
+    EXPECT_FALSE(v.window().Toolbar2Enabled[1] || v.window().Toolbar2Enabled[2]);
     EXPECT_EQ(v.chart().axisY().min(), yMin);
     EXPECT_EQ(v.chart().axisY().max(), yMax);
     EXPECT_FALSE(v.chart().axisY().isMinAuto()) << "level 0's range comes back fixed";
@@ -114,8 +112,8 @@ TEST(TrendZoom, BackAndYOnlyZoom) {
     v.chart().axisX().setMax(149);
     v.zoom().chartZoomAction();
     EXPECT_EQ(v.state().ZoomLevel, 1);
-    EXPECT_EQ(v.state().ZoomX[1][1], 50);
-    EXPECT_EQ(v.state().ZoomX[1][2], 150);
+    EXPECT_EQ(std::make_pair(v.state().ZoomX[1][1], v.state().ZoomX[1][2]),
+              std::make_pair(50, 150));
     v.chart().axisX().setMin(-3);
     v.zoom().chartZoomAction();
     EXPECT_EQ(v.state().ZoomLevel, 0);
