@@ -45,7 +45,7 @@ TEST(PlotValue, CellsBecomeNumbersOrHoles) {
 // The second operand: a column in error spoils the point; a constant that is not a number is
 // ignored.
 TEST(PlotValue, SecondOperand) {
-    ViewTables& v = makeView(1, {{100, 200, 300}, {10, kBurn, 30}}, 0);
+    const ViewTables& v = makeView(1, {{100, 200, 300}, {10, kBurn, 30}}, 0);
     TrendLine sum = line(1);
     sum.secondColumn = 2;
     EXPECT_EQ(PlotValue(v.Storage, sum, 1), 110);

@@ -95,7 +95,6 @@ TEST(MultiScale, StripsTakeFirstFourAndFollowZoom) {
     p.view.scales().ScaleTypeInit();
     ASSERT_EQ(p.view.scales().strips().size(), 4u);
     EXPECT_EQ(p.view.scales().strips()[3].row, 4);
-    EXPECT_EQ(p.view.chart().chartAreaMargins().left(), 4 * TrendScaleAxes::kStripWidth);
     p.view.scales().Y_AxisSet(false, 1, 1);
     EXPECT_EQ(p.view.chart().axisY().title(), QStringLiteral(" ")) << "titles give way";
     st.MultiScaleShown.fill(false);
