@@ -439,8 +439,11 @@ void frmScrollTime::chartMouseMoved(const QPointF& pixel) {
     if (cursors_->mouseMove(chart_->chartGeometry(), pixel)) {
         const TrackingMarker& m = cursors_->marker();
         chart_->setCursorLines({{m.x, m.color, m.width}});
-    } else if (!cursors_->marker().tracking) {
+        markerShown_ = true;
+    } else if (markerShown_ && !cursors_->marker().tracking) {
+        // Only a shown marker costs a repaint to take away; plain mouse moves cost none.
         chart_->setCursorLines({});
+        markerShown_ = false;
     }
 }
 

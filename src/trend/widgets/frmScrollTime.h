@@ -96,6 +96,7 @@ private:
     QTimer* Timer1_ = nullptr;
     QAction* alarmMarks_ = nullptr;
     bool followingY_ = false;
+    bool markerShown_ = false;
     ChartWidget* chart_ = nullptr;
     QWidget* plotArea_ = nullptr;
     QLabel* lblTitle_ = nullptr;
