@@ -27,17 +27,6 @@ protected:
     const ViewTables& view = views(1);
 };
 
-TEST_F(CsvReader, TitlesTimesAndValuesFillTheView) {
-    ASSERT_TRUE(load(simpleCsv(3, 4, rowDotChannel)).ok());
-    EXPECT_EQ(view.PointCount, 4);
-    EXPECT_EQ(view.ChannelCount, 3);
-    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("T2"));
-    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("V"));
-    EXPECT_EQ(view.ViewTitle, QLatin1String("data.csv"));
-    EXPECT_EQ(cellText(6, 4), QLatin1String("4.3"));
-    EXPECT_EQ(cellText(1, 1), QLatin1String("0000"));
-}
-
 TEST_F(CsvReader, DateAndTimeInOneOrTwoFieldsWithMilliseconds) {
     const struct {
         QStringList lines;
@@ -87,15 +76,6 @@ TEST_F(CsvReader, AlarmColumnsEndTheChannelsAndGiveAlarmDigits) {
     EXPECT_EQ(clsCSV::AlmDataCnv(h + "/" + h + "/" + h + "/" + h + "/" + h), QLatin1String("1111"));
 }
 
-TEST_F(CsvReader, TextIsUtf8WhenValidOtherwiseCp932) {
-    const QString tag = QString::fromUtf8("温度");
-    for (bool cp932 : {false, true}) {
-        ASSERT_TRUE(load({"Date," + tag + " [℃]", "2024/05/06 10:00:00,1"}, cp932).ok());
-        EXPECT_EQ(view.Channels.ChTag[1], tag) << cp932;
-        EXPECT_EQ(view.Channels.ChUnit[1], QString::fromUtf8("℃")) << cp932;
-    }
-}
-
 TEST_F(CsvReader, UnreadableDatesAndShortLinesFailWithNothingShown) {
     const QStringList cases[] = {
         {"Date,A [V]", "yesterday,1"},
@@ -122,16 +102,6 @@ TEST_F(CsvReader, UnreadableDatesAndShortLinesFailWithNothingShown) {
         EXPECT_EQ(view.Storage.MaxCols(), 0);
         EXPECT_FALSE(view.Loaded);
     }
-}
-
-TEST_F(CsvReader, ChannelsBeyond372AreDroppedWithAWarning) {
-    const LoadOutcome out = load(simpleCsv(373, 2, rowDotChannel));
-    ASSERT_TRUE(out.ok());
-    EXPECT_EQ(out.message, 492);
-    EXPECT_EQ(out.detail, MsgText(490));
-    EXPECT_EQ(view.ChannelCount, 372);
-    EXPECT_EQ(cellText(744, 2), QLatin1String("2.372"));
-    EXPECT_EQ(load(simpleCsv(372, 2, rowDotChannel)).message, 0);
 }
 
 } // namespace

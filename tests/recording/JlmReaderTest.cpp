@@ -89,34 +89,4 @@ TEST_F(JlmReader, IrregularStepsKeepTheirRowsAndSetTheFlag) {
     EXPECT_EQ(cellText(4, 3), QLatin1String("-2.00"));
 }
 
-TEST_F(JlmReader, FilesFollowEachOtherInFileOrder) {
-    JlmDescription a = threeRows(), b = threeRows();
-    b.keys = jlmKeys(2024, 5, 6, 10, 0, 30, 2, 10);
-    b.rows = {{1.0f, 2.0f, 3.0f}, {4.0f, 5.0f, 6.0f}};
-    ASSERT_TRUE(loadFiles({dir.write("a.jlm", buildJlm(a)), dir.write("b.jlm", buildJlm(b))}).ok());
-    EXPECT_EQ(view.PointCount, 5);
-    EXPECT_FALSE(view.IrregularTime);
-    EXPECT_EQ(cellText(2, 4), QLatin1String("1.0"));
-    EXPECT_EQ(cellText(6, 5), QLatin1String("6"));
-    // A later file that does not continue the time marks the view, and still follows in order.
-    b.keys = jlmKeys(2024, 5, 6, 9, 0, 0, 2, 10);
-    ASSERT_TRUE(loadFiles({dir.write("a.jlm", buildJlm(a)), dir.write("b.jlm", buildJlm(b))}).ok());
-    EXPECT_TRUE(view.IrregularTime);
-    EXPECT_EQ(cellText(2, 4), QLatin1String("1.0"));
-}
-
-TEST_F(JlmReader, NoDataRowFailsCleanly) {
-    JlmDescription d = threeRows();
-    d.rows.clear();
-    d.keys.clear();
-    ViewTables& v = views(1);
-    selection().clear();
-    selection().append(dir.write("e.jlm", buildJlm(d)), 0, 0);
-    copySelectionToView(v);
-    const LoadOutcome out = LoadRecording(v, LoadOptions());
-    EXPECT_EQ(out.message, 560);
-    EXPECT_EQ(v.PointCount, 0);
-    EXPECT_EQ(v.Storage.MaxCols(), 0);
-}
-
 } // namespace

@@ -59,12 +59,4 @@ TEST_F(MsgFiles, AFileGivesAtMost200RecordsAndFilesAddUp) {
     EXPECT_EQ(view.ViewMessages[3].text, QLatin1String("b"));
 }
 
-TEST_F(MsgFiles, AShortLastRecordStillCounts) {
-    QByteArray bytes = buildMsg({{"240506100000", "first"}, {"240506100001", "second"}});
-    bytes.chop(20);
-    ASSERT_TRUE(loadWithMessages({dir.write("s.msg", bytes)}).ok());
-    ASSERT_EQ(view.ViewMessages.size(), 2);
-    EXPECT_EQ(view.ViewMessages[1].text, QLatin1String("second"));
-}
-
 } // namespace

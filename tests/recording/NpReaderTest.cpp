@@ -71,20 +71,6 @@ TEST_F(NpReader, FloatFileUsesTheFloatRule) {
     EXPECT_EQ(cellText(3, 1), QLatin1String("0900"));
 }
 
-TEST_F(NpReader, PairsGiveMinimumAndMaximumChannels) {
-    NpDescription d = twoChannels();
-    d.dataKind = 4;
-    d.rows = {{{-10, 0, 0}, {10, 0, 1}, {-20, 0, 0}, {20, 0, 0}}};
-    ASSERT_TRUE(loadFiles({dir.write("p.n5f", buildNp(d))}).ok());
-    EXPECT_EQ(view.ChannelCount, 4);
-    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("Flow -max"));
-    EXPECT_EQ(view.Channels.ChTag[3], QLatin1String("No7 -min"));
-    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("m3/h"));
-    EXPECT_EQ(cellText(4, 1), QLatin1String("10"));
-    EXPECT_EQ(cellText(3, 1), QLatin1String("9000"));
-    EXPECT_EQ(cellText(8, 1), QLatin1String("20"));
-}
-
 TEST_F(NpReader, VersionDecidesDataStartAndCounts) {
     const struct {
         quint16 version;
@@ -117,19 +103,6 @@ TEST_F(NpReader, P4fIsReadInGsModeOnly) {
     EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfGSSeries().GetColor(2));
     EXPECT_EQ(cellText(2, 1), QLatin1String("100"));
     EXPECT_EQ(loadFiles({path}, false).status, LoadOutcome::Status::NotHandled);
-}
-
-TEST_F(NpReader, CountsBeyondTheFileFailBeforeAnythingIsSized) {
-    NpDescription d = twoChannels();
-    d.rowCount = 0xFFFFFFF0;
-    LoadOutcome out = loadFiles({dir.write("h.n5f", buildNp(d))});
-    EXPECT_EQ(out.message, 560);
-    EXPECT_EQ(view.Storage.MaxCols(), 0);
-    d.rowCount.reset();
-    d.channelCount = 0x7FFFFFFF;
-    out = loadFiles({dir.write("c.n5f", buildNp(d))});
-    EXPECT_EQ(out.message, 560);
-    EXPECT_EQ(view.PointCount, 0);
 }
 
 } // namespace

@@ -82,26 +82,4 @@ TEST_F(QdfReader, APartialLastRowIsNotRead) {
     }
 }
 
-TEST_F(QdfReader, ATailOneByteShortOfARowFailsCleanly) {
-    // Without spare bytes the last row's last alarm word would run past the end of the file.
-    const QByteArray whole = buildQdf(mixedGroups());
-    const LoadOutcome out = loadFiles({dir.write("s.qdf", whole.left(whole.size() - 1))});
-    EXPECT_EQ(out.message, 587);
-    EXPECT_EQ(out.detail, QLatin1String("CHCount = 5"));
-    EXPECT_EQ(view.PointCount, 0);
-    EXPECT_EQ(view.Storage.MaxCols(), 0);
-}
-
-TEST_F(QdfReader, ColoursRepeatEveryTwelvePositions) {
-    QdfDescription d;
-    d.startTime = kStart;
-    d.groupMask[0] = 0x0FFF;
-    d.groupMask[1] = 0x0001;
-    d.values = {QVector<qint16>(13, 1)};
-    ASSERT_TRUE(loadFiles({dir.write("c.qdf", buildQdf(d))}).ok());
-    EXPECT_EQ(view.Channels.ChColor[12], ColorMapOfVXSeries().GetColor(0));
-    EXPECT_EQ(view.Channels.ChColor[13], ColorMapOfVXSeries().GetColor(1));
-    EXPECT_EQ(view.Channels.ChTag[13], QLatin1String("CH13"));
-}
-
 } // namespace

@@ -84,10 +84,4 @@ TEST(AlarmForms, ByteAndBitForms) {
     for (const auto& c : cases) EXPECT_EQ(AlarmCell::text(c.cell), QLatin1String(c.text)) << c.text;
 }
 
-TEST(DecimalsOf, CountsBehindFirstDot) {
-    EXPECT_EQ(SampleRules::decimalsOf(QStringLiteral(" 100.00 ")), 2);
-    EXPECT_EQ(SampleRules::decimalsOf(QStringLiteral("100")), 0);
-    EXPECT_EQ(SampleRules::decimalsOf(QStringLiteral("1.2.3")), 3);
-}
-
 } // namespace

@@ -52,16 +52,6 @@ TEST(Storage, SegmentsDecodeRawCellsAndLaterWritesWin) {
     EXPECT_EQ(s.DataRowCnt(), 5);
 }
 
-TEST(Storage, GrowingRowsKeepsCellsAndClearEmptiesAll) {
-    clsStorage s = sized(2, 2);
-    s.beginSegment(1, 1, 2, CellFormat::alarm())[2] = AlarmCell::fromBytes(0x13, 0);
-    s.setMaxRows(100000);
-    EXPECT_EQ(cell(s, 1, 2), QLatin1String("1000"));
-    s.Action(28);
-    EXPECT_EQ(s.MaxRows(), 0);
-    EXPECT_EQ(s.MaxCols(), 0);
-}
-
 TEST(Storage, SaveAndLoadRoundTrip) {
     QTemporaryDir dir;
     clsStorage s = sized(4, 3);
@@ -80,20 +70,6 @@ TEST(Storage, SaveAndLoadRoundTrip) {
     EXPECT_EQ(cell(back, 2, 2), QLatin1String("UNDER"));
     EXPECT_EQ(cell(back, 2, 3), QString());
     EXPECT_EQ(cell(back, 4, 2), QStringLiteral("温度1234")); // 8 bytes of cp932
-}
-
-TEST(Storage, LoadOfABadFileLeavesTheStoreAsItWas) {
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("bad.bin"));
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(QByteArray("\x05\0\0\0\x02\0\0\0short", 13));
-    f.close();
-    clsStorage s = sized(2, 1);
-    s.SetText(1, 1, QStringLiteral("keep"));
-    EXPECT_FALSE(s.LoadFromFile(path));
-    EXPECT_FALSE(s.TryLoadFile(dir.filePath(QStringLiteral("missing")), 1));
-    EXPECT_EQ(cell(s, 1, 1), QLatin1String("keep"));
 }
 
 } // namespace

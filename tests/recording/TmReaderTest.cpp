@@ -84,20 +84,6 @@ TEST_F(TmReader, CountsAreScaledOrShownAsStatus) {
         EXPECT_EQ(cellText(4, r), QLatin1String(cases[r - 1].logText)) << r;
 }
 
-TEST_F(TmReader, DecimalsFollowTheScaleHighText) {
-    const struct {
-        const char *low, *high, *text;
-    } cases[] = {{"0", "100", "100"},       {"0", "100.00", "100.00"}, {"-1.5", "1.50", "1.50"},
-                 {"0", "1.0000", "1.0000"}, {"", "100", "N.DATA"},     {"0", "x", "N.DATA"}};
-    for (const auto& c : cases) {
-        TmDescription d;
-        d.channels = {{1, '0', c.low, c.high, "", "A", '0', {}, {}}};
-        d.rows = {{25000}};
-        ASSERT_TRUE(loadFiles({dir.write("d.dat", buildTm(d))}).ok()) << c.high;
-        EXPECT_EQ(cellText(2, 1), QLatin1String(c.text)) << c.low << " " << c.high;
-    }
-}
-
 TEST_F(TmReader, TheChannelListEndsAtTheFirstPairThatIsNoNumber) {
     const struct {
         const char* list;
@@ -117,39 +103,6 @@ TEST_F(TmReader, TheChannelListEndsAtTheFirstPairThatIsNoNumber) {
         EXPECT_EQ(view.ChannelCount, c.channels) << c.list;
         EXPECT_EQ(view.PointCount, 18 / (2 * c.channels)) << c.list;
     }
-}
-
-TEST_F(TmReader, LaterAnalogueChannelsTakeTheirScaleFromTheBlock) {
-    for (const char* magic : {"TM01", "TM11"}) {
-        TmDescription d;
-        d.magic = magic;
-        for (int m = 1; m <= 7; ++m)
-            d.channels.append(
-                {m, '0', "0", "100", "", "T" + QByteArray::number(m), '0', "0", "10.0"});
-        d.rows = {QVector<qint16>(7, 25000)};
-        ASSERT_TRUE(loadFiles({dir.write("p.dat", buildTm(d))}).ok());
-        EXPECT_EQ(cellText(12, 1), QLatin1String("100")) << magic;
-        // Position 7 is above 6 in format 6 only.
-        EXPECT_EQ(cellText(14, 1), QLatin1String(magic[2] == '0' ? "10.0" : "100")) << magic;
-    }
-}
-
-TEST_F(TmReader, PairFlagGivesMinimumAndMaximumChannels) {
-    TmDescription d = twoChannels({{-25000, 25000, 0, 0}});
-    d.pairFlag = '1';
-    ASSERT_TRUE(loadFiles({dir.write("m.dat", buildTm(d))}).ok());
-    EXPECT_EQ(view.ChannelCount, 4);
-    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Temp -min"));
-    EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("Temp -max"));
-    EXPECT_EQ(view.Channels.ChTag[4], QLatin1String("CH2 -max"));
-    EXPECT_EQ(view.Channels.ChScaleHigh[2], QLatin1String("100.0"));
-    EXPECT_EQ(cellText(2, 1), QLatin1String("0.0"));
-    EXPECT_EQ(cellText(4, 1), QLatin1String("100.0"));
-
-    d.pairFlag = '2'; // the row size is undetermined
-    const LoadOutcome out = loadFiles({dir.write("x.dat", buildTm(d))});
-    EXPECT_EQ(out.message, 560);
-    EXPECT_EQ(view.PointCount, 0);
 }
 
 TEST_F(TmReader, LaterFilesCloseSmallGapsAndOverlaps) {

@@ -239,42 +239,11 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
     EXPECT_EQ(v.PointCount, 0);
 }
 
-TEST_F(VxfReader, PropertiesOfTheFirstFile) {
-    VxfDescription d = simpleVxf(1, 30, kStart, 50, rowTimesTen);
-    d.modelText = "VX-3000";
-    d.versionText = "R2.04";
-    ASSERT_TRUE(load({d}).ok());
-    const clsDataFileProperty& p = view.DataProperty;
-    EXPECT_EQ(p.end, kStart + 150); // 5 s x 30 rows
-    EXPECT_EQ(p.typeText, QLatin1String("TARNO Graphic recorder"));
-    EXPECT_EQ(p.modelText, QLatin1String("VX-3000"));
-    EXPECT_EQ(p.versionText, QLatin1String("R2.04"));
-    EXPECT_FALSE(view.BatchInfoFound);
-}
-
 TEST_F(VxfReader, LongRecordingsCapTheSixteenBitRowCount) {
     ASSERT_TRUE(load({vxf(1, 40000)}).ok());
     EXPECT_EQ(view.PointCount, 40000);
     EXPECT_EQ(view.ViewShownPoints, 40000);
     EXPECT_EQ(view.ViewRowCount, 32767);
-}
-
-TEST_F(VxfReader, AnUnknownMagicReadsMessagesOf44Bytes) {
-    // A file of another magic arrives only through paths that skip the magic test.
-    VxfDescription d = vxf(1, 2);
-    d.magic = QByteArray("XQ9\0", 4);
-    d.messageSize = 60; // the head says 60, the reader takes 44
-    d.messages = {{kStart, 0, "abc", 5}};
-    SelectionLists& sel = selection();
-    sel.clear();
-    sel.append(dir.write("u.vxf", buildVxf(d)), kStart, 0);
-    sel.SelInterval = 1000;
-    ViewTables& v = views(1);
-    copySelectionToView(v);
-    ASSERT_TRUE(LoadRecording(v, LoadOptions()).ok());
-    ASSERT_EQ(v.ViewMessages.size(), 1);
-    EXPECT_EQ(v.ViewMessages[0].text, QLatin1String("abc"));
-    EXPECT_EQ(v.ViewMessages[0].type, 0); // the type field of a 44-byte record holds text bytes
 }
 
 } // namespace
