@@ -1,7 +1,4 @@
 #include "CursorTestSupport.h"
-#include "recording/LoadHelpers.h"
-#include "support/RecordingFixture.h"
-#include "support/VxfWriter.h"
 #include "trend/AlarmMarks.h"
 #include "trend/AlarmSymbolSettings.h"
 #include "trend/AlarmTable.h"
@@ -56,29 +53,6 @@ TEST(AlarmTable, FillFromAlarmTexts) {
     EXPECT_EQ(levels(table, 5, 1), QStringLiteral("0010"));
 }
 
-// A VXF file's alarm bytes reach the table through the store's packed cells exactly as its
-// texts read.
-TEST(AlarmTable, VxfAlarmBytes) {
-    fixtures::VxfDescription d =
-        fixtures::simpleVxf(2, 400, 0, 10, [](int row, int) { return qint16(row); });
-    d.rows[4][0].alarm1 = 0x30; // second character of the first byte
-    d.rows[7][1].alarm1 = 0x03;
-    d.rows[7][1].alarm2 = 0x5F;
-    FixtureDir dir;
-    ASSERT_TRUE(loadFiles({dir.write(QStringLiteral("a.vxf"), fixtures::buildVxf(d))}).ok());
-    TrendView view(1);
-    ASSERT_TRUE(view.afterLoad());
-    ASSERT_TRUE(AlarmMarks(view).afterLoad());
-    const AlarmTable& table = alarmTable(1);
-    ASSERT_EQ(table.points(), 400);
-    EXPECT_EQ(levels(table, 5, 1), QStringLiteral("0100"));
-    QString text;
-    views(1).Storage.GetText(3, 8, text);
-    EXPECT_EQ(levels(table, 8, 2).left(text.size()), text);
-    EXPECT_TRUE(table.any(8, 2));
-    EXPECT_FALSE(table.any(7, 2));
-}
-
 // A point in alarm gets the symbol, size and colour of its first set level with a visible
 // symbol: level 1's default symbol 1 lets level 2 show through. Holes get no mark.
 TEST(AlarmMarks, FirstVisibleLevelWins) {
@@ -104,25 +78,6 @@ TEST(AlarmMarks, FirstVisibleLevelWins) {
     EXPECT_EQ(v.styles().at(0).symbol, Chart::SymbolShape(6));
 }
 
-// Nothing is drawn when no point of the shown range is in alarm, or when the channel is
-// switched off in the view.
-TEST(AlarmMarks, ShownRangeAndSwitchedOffChannels) {
-    AlarmView v(ramp(100), {"0100"});
-    AlarmMarks marks = v.marks();
-    marks.afterLoad();
-    AlarmMarks::ShowAlarmMarks(6) = true;
-    v.view.zoom().SetDataRange(50, 100);
-    EXPECT_EQ(marks.draw(), 0);
-    v.view.zoom().SetDataRange(1, 100);
-    EXPECT_EQ(marks.shownAlarmCount(), 1);
-    SeriesStyle off = v.view.chart().seriesStyle(1);
-    off.pattern = Chart::LinePattern::None;
-    off.symbol = Chart::SymbolShape::None;
-    v.view.chart().setSeriesStyle(1, off);
-    EXPECT_EQ(marks.draw(), 0);
-    EXPECT_TRUE(v.styles().empty());
-}
-
 // A fresh load turns chkShow off and takes the marks away, even when the earlier file had them
 // on; a saved-work load restores them as saved.
 TEST(AlarmMarks, FreshLoadResetsShow) {
@@ -136,7 +91,7 @@ TEST(AlarmMarks, FreshLoadResetsShow) {
 }
 
 // The dialog: a preview shows the working style, Cancel goes back to the record of the
-// opening, OK keeps the working style and the flag; without channels only the flag is kept.
+// opening, OK keeps the working style and the flag.
 TEST(AlarmSymbolSettings, PreviewCancelAndOK) {
     AlarmView v(ramp(5), {"0100"});
     v.marks().afterLoad();
@@ -160,11 +115,4 @@ TEST(AlarmSymbolSettings, PreviewCancelAndOK) {
         EXPECT_EQ(st.AlarmColor[1][0], 0xFF0000u);
         EXPECT_EQ(v.styles().at(0).color, QColor(0, 0, 255));
     }
-    views(6).ChannelCount = 0;
-    AlarmSymbolSettings empty(v.view);
-    empty.working().setSize(1, 1, 9);
-    empty.chkShow = false;
-    empty.OK();
-    EXPECT_FALSE(AlarmMarks::ShowAlarmMarks(6));
-    EXPECT_EQ(st.AlarmSize[0][0], 4);
 }

@@ -105,22 +105,3 @@ TEST(TrendCursors, CursorsNeverMoveByThemselves) {
     EXPECT_EQ(v.view.state().CursorPoint, (decltype(v.view.state().CursorPoint){0, 0}));
     EXPECT_EQ(v.cursors.activeCursor(), 0);
 }
-
-// After a placement the marker view (when open) gets MarkABset of that cursor, and with the
-// statistics view on and both cursors placed the statistics follow.
-TEST(TrendCursors, PlacementFeedsMarkerViewAndStatistics) {
-    CursorView v(3, {ramp(20, 1)});
-    std::vector<std::pair<int, qint32>> marked;
-    int statistics = 0;
-    v.cursors.markerView = [&](int cursor, qint32 point) { marked.emplace_back(cursor, point); };
-    v.cursors.markerStatistics = [&] { ++statistics; };
-    v.cursors.statisticsViewOpen = true;
-    v.cursors.place(1, 5);
-    EXPECT_EQ(statistics, 0);
-    v.cursors.place(2, 8);
-    EXPECT_EQ(statistics, 1);
-    EXPECT_EQ(marked, (std::vector<std::pair<int, qint32>>{{1, 5}, {2, 8}}));
-    // Points 5..8 hold 5, 6, 7, 8: maximum, minimum, mean in the side grid.
-    EXPECT_EQ(v.side().grid().text(3, 4), QStringLiteral("8"));
-    EXPECT_EQ(v.side().grid().text(3, 6), shown(QStringLiteral("6.5")));
-}

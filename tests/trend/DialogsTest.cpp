@@ -4,7 +4,6 @@
 #include "support/RecordingMessageSink.h"
 #include "trend/MultiScaleSet.h"
 #include "trend/TimeAxisSetting.h"
-#include "trend/XlblSet.h"
 #include "trend/YAxesStyle.h"
 
 #include <gtest/gtest.h>
@@ -73,27 +72,9 @@ TEST(TimeAxisSetting, RangeSpanAndRefusals) {
     EXPECT_EQ(span.EndTime(), 181);
 }
 
-// Label intervals in hours or days become point counts; text that is not a number gives 0.
-TEST(XlblSet, IntervalsInPoints) {
-    EXPECT_EQ(XlblSet::points(QStringLiteral("0.5"), XlblSet::Unit::Days, 3600000), 12);
-    EXPECT_EQ(XlblSet::points(QStringLiteral("x"), XlblSet::Unit::Hours, 1000), 0);
-    EXPECT_EQ(XlblSet::points(QStringLiteral("500"), XlblSet::Unit::Hours, 1000, true), 360);
-    DialogView d;
-    XlblSet::apply(d.view, QStringLiteral("1"), QStringLiteral("0.5"), XlblSet::Unit::Hours);
-    EXPECT_EQ(d.view.state().TimeLabelInterval[0], 360);
-    EXPECT_EQ(d.view.state().TimeLabelInterval[1], 180);
-    int texts = 0;
-    for (const ValueLabel& l : d.view.chart().axisX().valueLabels().items())
-        texts += !l.text.isEmpty();
-    EXPECT_EQ(texts, 3) << "points 0, 360 and 720";
-}
-
-// The axes dialog: fixed or automatic bounds, the option mapping, cancel restoring all, and
+// The axes dialog: fixed or automatic bounds, cancel restoring all, and
 // percent mode.
 TEST(YAxesStyle, BoundsOptionCancelAndPercent) {
-    for (int option : {0, 1, 2, 3})
-        EXPECT_EQ(YAxesStyle::optionButton(option), std::max(0, option - 1)) << option;
-
     DialogView d;
     ChartAxis& y = d.view.chart().axisY();
     const double min0 = y.min(), max0 = y.max();

@@ -22,8 +22,7 @@ struct HoverView : CursorView {
 } // namespace
 
 // The value under the mouse, the point under it and the nearest channel with its tag, value
-// and unit; a channel with a hole there shows its status word. Exponent channels show a "#0"
-// mantissa and three exponent digits.
+// and unit; a channel with a hole there shows its status word.
 TEST(HoverReadout, ValuePointAndNearestChannel) {
     HoverView v;
     const std::optional<HoverText> low = v.at(0.2, 0.15);
@@ -38,11 +37,6 @@ TEST(HoverReadout, ValuePointAndNearestChannel) {
     EXPECT_EQ(hole->channel, 1); // channel 2 has no value at point 4
     v.view.chart().setDisplayState(1, Chart::kDisplayHidden);
     EXPECT_EQ(v.at(0.3, 0.85)->text.section(QLatin1Char('\n'), 2, 2), QStringLiteral("BURN"));
-
-    views(5).Channels.ChExpDigits[1] = 3;
-    EXPECT_EQ(HoverReadout::valueText(v.view, 1, 1234.5), shown(QStringLiteral("1.23E+003")));
-    views(5).Channels.ChExpDigits[1] = 0;
-    EXPECT_EQ(HoverReadout::valueText(v.view, 1, 12.6), QStringLiteral("13"));
 }
 
 // Reversed Y mirrors the value; a bound channel turns percent into its units. No readout on a

@@ -1,7 +1,5 @@
 #include "CursorTestSupport.h"
 #include "app/LanguageTable.h"
-#include "trend/AlarmTable.h"
-#include "trend/ChannelTexts.h"
 #include "trend/CursorReadout.h"
 #include "trend/CursorTimeSpan.h"
 
@@ -27,10 +25,8 @@ TEST(CursorTimeSpan, MarkerAndSideGridThresholds) {
         const char* side;
     } rows[] = {
         {10, 5000, "0:0:50", "0:0:0.05"}, {3, 500, "0:0:1.5", "0:0:1.5"},
-        {3, 1000, "0:0:3", "0:0:3"},      {10, 10000, "0:1:40", "0:0:0.1"},
-        {10, 20000, "0:3:20", "0:3:20"},  {7, 1500, "0:0:14", "0:0:0.014"}, // 1.5 s rounds to 2
+        {10, 10000, "0:1:40", "0:0:0.1"}, {10, 20000, "0:3:20", "0:3:20"},
         {9, 2500, "0:0:18", "0:0:0.018"}, // 2.5 s rounds to 2 (halves to even)
-        {30, 2000, "0:1:0", "0:0:0.06"},
     };
     namespace S = CursorTimeSpan;
     for (const auto& r : rows)
@@ -92,64 +88,4 @@ TEST(CursorSideGrid, HoleAtCursorAKeepsDifference) {
     v.cursors.place(1, 4);
     EXPECT_EQ(g.text(3, 1), MsgText(179).trimmed());
     EXPECT_EQ(g.text(3, 3), QStringLiteral("10"));
-}
-
-// A value in alarm at cursor B is red in column 2, and its tool tip names the levels set; a
-// value without alarm and the A-B column have none.
-TEST(CursorSideGrid, AlarmCellsAndToolTips) {
-    CursorView v(3, {ramp(5), ramp(5)});
-    AlarmTable& table = alarmTable(3);
-    table.resize(5, 2);
-    table.set(2, 4, 1, 1);
-    table.set(4, 4, 1, 7);
-    v.cursors.place(1, 3);
-    v.cursors.place(2, 4);
-    const ReadoutGrid& g = v.side().grid();
-    EXPECT_EQ(g.color(3, 2), kRed);
-    EXPECT_EQ(g.color(3, 1), kBlack);
-    EXPECT_EQ(v.side().toolTip(3, 2),
-              (MsgText(9) + QLatin1Char('\n') + MsgText(229) + QStringLiteral("\n2\n4")).trimmed());
-    EXPECT_TRUE(v.side().toolTip(3, 1).isEmpty());
-    EXPECT_TRUE(v.side().toolTip(3, 3).isEmpty());
-    EXPECT_EQ(CursorReadout::markerAlarmTip(3, 2, 4, 1),
-              (MsgText(9) + QLatin1Char('\n') + MsgText(229) + QStringLiteral("2 ") +
-               AlarmKindText(1) + QLatin1Char('\n') + MsgText(229) + QStringLiteral("4 ON"))
-                  .trimmed());
-    table.clear();
-}
-
-// Percent data read back in engineering units, rounded to the channel's decimals (1 of a
-// 0..3 scale is 33.3333333333333 % and reads 1, not 0.999999999999999); exponent channels show
-// their own format in the value and the difference.
-TEST(CursorSideGrid, PercentAndExponentChannels) {
-    CursorView v(3, {{1, 2, 0, 0}, {1, 2, 3, 4}}, 0, QStringLiteral("0"), QStringLiteral("1000"));
-    TrendViewState& st = v.view.state();
-    st.ScalePercentMode = true;
-    st.Lines[1].scaleHigh = QStringLiteral("3");
-    st.Lines[1].decimals = 1;
-    views(3).Channels.ChExpDigits[2] = 2;
-    v.view.plot().ScaleCalculateSet();
-    v.cursors.place(1, 2);
-    v.cursors.place(2, 1);
-    const ReadoutGrid& g = v.side().grid();
-    EXPECT_EQ(QStringList({g.text(3, 1), g.text(3, 2), g.text(3, 3)}),
-              QStringList({"2", "1", "1"}));
-    EXPECT_EQ(g.text(4, 1), shown(QStringLiteral("2.0E+00")));
-    EXPECT_EQ(g.text(4, 3), shown(QStringLiteral("1.0E+00")));
-}
-
-// The texts of values, status and alarm kinds that every readout shares.
-TEST(ChannelTexts, ValueAndKindTexts) {
-    const struct {
-        double value;
-        int code;
-        const char* text;
-    } values[] = {
-        {0.5, 0, "0.5"},   {12.25, 0, "12.25"},    {1234.5, 2, "1.2E+03"},
-        {-7.5, 9, "-7.5"}, {0.000012, 1, "1E-05"}, {150, 4, "1.500E+02"},
-    };
-    for (const auto& v : values)
-        EXPECT_EQ(ChannelValueText(v.value, v.code), shown(QLatin1String(v.text))) << v.value;
-    EXPECT_EQ(AlarmKindText(5), MsgText(269));
-    EXPECT_EQ(AlarmKindText(12), QStringLiteral("ON"));
 }

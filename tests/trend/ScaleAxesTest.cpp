@@ -74,18 +74,6 @@ TEST(YAxisSet, GridMarksExponentsAndDegenerateSteps) {
     EXPECT_LE(p.labels().size(), 1u);
 }
 
-// Binding channels to the axes for each channel count.
-TEST(YAxisModeChange, AxisChannels) {
-    PercentView p(1);
-    TrendViewState& st = p.view.state();
-    EXPECT_EQ(st.AxisChannel[1], 1) << "Y2 with one channel is channel 1";
-    st.AxisChannel = {5, 0};
-    p.view.scales().Y_Axis_Mode_change(true, 3);
-    EXPECT_EQ(st.AxisChannel, (decltype(st.AxisChannel){1, 2}));
-    p.view.scales().Y_Axis_Mode_change(false, 3);
-    EXPECT_FALSE(p.view.chart().axisY2().isShown());
-}
-
 // Multi-scale: with no row flagged the first four channels stand on the strips, titles give way
 // to the strips, and the strips follow the zoomed Y range.
 TEST(MultiScale, StripsTakeFirstFourAndFollowZoom) {

@@ -2,7 +2,6 @@
 #include "app/VbFormat.h"
 #include "app/clsCommon.h"
 #include "trend/TrendTimeAxis.h"
-#include "trend/TrendView.h"
 
 #include <gtest/gtest.h>
 
@@ -59,50 +58,4 @@ TEST(SampleTimeText, EachUnitAndFraction) {
                                      : text(c.interval < 60000 ? 4 : 1));
         EXPECT_EQ(t.dateTime, t.date + QLatin1Char(' ') + t.time);
     }
-}
-
-// TimeToIndex undoes SampleTimeText in every unit; a time before the start is negative.
-TEST(SampleTimeText, TimeToIndexIsTheInverse) {
-    for (qint32 interval : {10, 500, 1000, 5000, 60000, 600000, 3600000, 86400000}) {
-        for (qint64 k : {0, 1, 7, 1234}) {
-            const SampleTime t = sampleTime(k, interval, kStart, 0);
-            qint64 index = -99;
-            ASSERT_TRUE(timeToIndex(t.date, t.time, interval, kStart, 0, index));
-            EXPECT_EQ(index, k) << interval;
-        }
-    }
-    const SampleTime before = sampleTime(0, 1000, kStart - 5, 0);
-    qint64 index = 0;
-    ASSERT_TRUE(timeToIndex(before.date, before.time, 1000, kStart, 0, index));
-    EXPECT_EQ(index, -5);
-    EXPECT_FALSE(timeToIndex(QStringLiteral("yesterday"), QStringLiteral("10:00:00"), 1000, kStart,
-                             0, index));
-    EXPECT_FALSE(timeToIndex(before.date, QStringLiteral("25:00:00"), 1000, kStart, 0, index));
-}
-
-// Labels at the chosen interval show times, grid marks between them; a date stands only where
-// the day changes.
-TEST(XAxisSet, DateOnlyAtDayChanges) {
-    ViewTables& v = makeView(6, {std::vector<qint16>(49, 1)}, 0);
-    v.SampleInterval = 3600000;
-    v.ViewStart = 86400 * 100; // midnight
-    TrendView view(6);
-    ASSERT_TRUE(view.afterLoad());
-    view.state().TimeLabelInterval = {6, 3};
-    view.zoom().SetDataRange(1, 49);
-    int texts = 0, dated = 0;
-    for (const ValueLabel& l : view.chart().axisX().valueLabels().items()) {
-        const qint64 hour = qint64(l.value) % 24;
-        EXPECT_EQ(l.text.isEmpty(), hour % 6 != 0) << l.value;
-        texts += !l.text.isEmpty();
-        const bool hasDate = l.text.contains(QLatin1Char('\n'));
-        dated += hasDate;
-        // Hours 18 and 0 stand next to a day change, the others (and the very first) do not.
-        if (!l.text.isEmpty()) {
-            EXPECT_EQ(hasDate, hour == 18 || (hour == 0 && l.value > 0)) << l.text.toStdString();
-        }
-    }
-    EXPECT_EQ(view.chart().axisX().valueLabels().items().size(), 17u);
-    EXPECT_EQ(texts, 9);
-    EXPECT_EQ(dated, 4);
 }

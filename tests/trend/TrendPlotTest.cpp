@@ -29,21 +29,6 @@ TEST(TrendPlot, LoadFillsEveryChannelAndTheExtraSeries) {
     EXPECT_EQ(v.view.chart().axisX().max(), 3);
 }
 
-// The first picture of a load reads the store straight; ScaleCalculateSet applies the second
-// operand; a change to the line table shows only after a refill.
-TEST(TrendPlot, RefillAppliesCalculationOnlyWhenAsked) {
-    makeView(4, {{10, 20, 30}, {1, 2, 3}}, 0);
-    TrendView view(4);
-    TrendViewState& st = view.state();
-    st.Lines[1].secondColumn = 2; // set before the load: the load's own line table wins
-    ASSERT_TRUE(view.afterLoad());
-    EXPECT_EQ(ys(view.chart(), 1), (std::vector<double>{10, 20, 30}));
-    st.Lines[1].secondColumn = 2;
-    EXPECT_EQ(ys(view.chart(), 1), (std::vector<double>{10, 20, 30})) << "no refill yet";
-    view.plot().ScaleCalculateSet();
-    EXPECT_EQ(ys(view.chart(), 1), (std::vector<double>{11, 22, 33}));
-}
-
 // Percent mode: Y stays 0..100, also when one channel is chosen (only with the mouse armed);
 // channels that share one scale stay in engineering units.
 TEST(TrendPlot, PercentModeAndChannelChoice) {

@@ -1,5 +1,4 @@
 #include "TrendFixture.h"
-#include "app/LanguageTable.h"
 
 #include <gtest/gtest.h>
 
@@ -106,30 +105,4 @@ TEST(TrendZoom, BackAndYOnlyZoom) {
     EXPECT_EQ(v.chart().axisY().min(), yMin);
     EXPECT_EQ(v.chart().axisY().max(), yMax);
     EXPECT_FALSE(v.chart().axisY().isMinAuto()) << "level 0's range comes back fixed";
-
-    // The chart's own zoom: a range starting before the data undoes all, others push a level.
-    v.chart().axisX().setMin(49);
-    v.chart().axisX().setMax(149);
-    v.zoom().chartZoomAction();
-    EXPECT_EQ(v.state().ZoomLevel, 1);
-    EXPECT_EQ(std::make_pair(v.state().ZoomX[1][1], v.state().ZoomX[1][2]),
-              std::make_pair(50, 150));
-    v.chart().axisX().setMin(-3);
-    v.zoom().chartZoomAction();
-    EXPECT_EQ(v.state().ZoomLevel, 0);
-    EXPECT_EQ(v.state().LastShown, 500);
-}
-
-// The date line of the shown range names both ends only when they differ.
-TEST(TrendZoom, TitleDateLine) {
-    EXPECT_EQ(TrendZoom::titleText(QStringLiteral("a"), QStringLiteral("b")),
-              QStringLiteral("a ") + MsgText(90) + QStringLiteral(" b"));
-    ZoomView z(3 * 24 * 60, 8);
-    views(8).SampleInterval = 60000; // three days of minutes
-    z.view.zoom().SetDataRange(1, 60);
-    const ChartLabel* title = z.view.chart().labels().item(QStringLiteral("Title"));
-    ASSERT_NE(title, nullptr);
-    EXPECT_FALSE(title->Text.contains(MsgText(90)));
-    z.view.zoom().SetDataRange(1, 3 * 24 * 60);
-    EXPECT_TRUE(title->Text.contains(MsgText(90)));
 }
