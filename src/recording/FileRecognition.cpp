@@ -78,3 +78,18 @@ QString extensionOf(const QString& path) {
 }
 
 } // namespace FileRecognition
+
+QString familyWord(int fileType, const QString& firstFile) {
+    const QString ext = FileRecognition::extensionOf(firstFile);
+    if (ext == QLatin1String(".JLM")) return QStringLiteral("JLM");
+    if (ext == QLatin1String(".P4F")) return QStringLiteral("P4F");
+    static const struct {
+        int code;
+        const char* word;
+    } kWords[] = {{Family::VXF, "VXF"}, {Family::VXB, "VXB"}, {Family::QDF, "QDF"},
+                  {Family::TM, "TM"},   {Family::N5F, "N5F"}, {Family::CSV, "CSV"},
+                  {Family::JLM, "JLM"}, {Family::P4F, "P4F"}};
+    for (const auto& w : kWords)
+        if (w.code == fileType) return QLatin1String(w.word);
+    return QString();
+}

@@ -20,3 +20,7 @@ bool ScanJlmHeader(const QString& path, HeadInfo& info);
 QString extensionOf(const QString& path);
 
 } // namespace FileRecognition
+
+// The word shown for the family of a selection: "VXF", "CSV", "QDF", ...; a JLM or P4F file
+// standing under another family code is named by its extension.
+QString familyWord(int fileType, const QString& firstFile);

@@ -1,35 +1,13 @@
 #include "app/TimeBase.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
+#include "recording/FileRecognition.h"
 
 #include <QTextStream>
 
 namespace Cli {
 
 namespace {
-
-const char* familyName(int code) {
-    switch (code) {
-    case 0:
-        return "VXF";
-    case 1:
-        return "VXB";
-    case 2:
-        return "QDF";
-    case 3:
-        return "TM";
-    case 4:
-        return "N5F/P4F";
-    case 5:
-        return "CSV";
-    case 6:
-        return "JLM";
-    case 34:
-        return "P4F";
-    default:
-        return "?";
-    }
-}
 
 int runInfo(const QStringList& args) {
     const RecordingArgs parsed = splitRecordingArgs(args);
@@ -40,10 +18,8 @@ int runInfo(const QStringList& args) {
     const ViewTables* view = openRecording(parsed);
     if (!view) return 1;
     QTextStream out(stdout);
-    // A JLM selection stands as family 0; its files tell it apart.
-    const bool jlm = view->FileName.value(0).endsWith(QLatin1String(".jlm"), Qt::CaseInsensitive);
-    out << "family:   " << (jlm ? "JLM" : familyName(view->FileType)) << " (" << view->FileType
-        << ")\n"
+    out << "family:   " << familyWord(view->FileType, view->FileName.value(0)) << " ("
+        << view->FileType << ")\n"
         << "files:    " << view->FileCount << "\n"
         << "start:    " << TimeBase::isoText(view->ViewStart)
         << QStringLiteral(".%1").arg(view->ViewStartMsec, 3, 10, QLatin1Char('0')) << "\n"

@@ -52,32 +52,6 @@ bool gsMode() {
 
 } // namespace
 
-QString familyWord(int fileType, const QString& firstFile) {
-    const QString ext = FileRecognition::extensionOf(firstFile);
-    if (ext == QLatin1String(".JLM")) return QStringLiteral("JLM");
-    if (ext == QLatin1String(".P4F")) return QStringLiteral("P4F");
-    switch (fileType) {
-    case Family::VXF:
-        return QStringLiteral("VXF");
-    case Family::VXB:
-        return QStringLiteral("VXB");
-    case Family::QDF:
-        return QStringLiteral("QDF");
-    case Family::TM:
-        return QStringLiteral("TM");
-    case Family::N5F:
-        return QStringLiteral("N5F");
-    case Family::CSV:
-        return QStringLiteral("CSV");
-    case Family::JLM:
-        return QStringLiteral("JLM");
-    case Family::P4F:
-        return QStringLiteral("P4F");
-    default:
-        return QString();
-    }
-}
-
 frmMain::frmMain(TrMdiForm* frame)
     : QObject(frame), frame_(frame), forms_(new ViewForms(frame)),
       timDoubleClick_(new QTimer(this)), timWindow_(new QTimer(this)), timFTP_(new QTimer(this)) {

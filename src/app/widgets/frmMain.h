@@ -1,5 +1,7 @@
 #pragma once
 
+#include "recording/FileRecognition.h"
+
 #include <QObject>
 #include <QStringList>
 
@@ -78,6 +80,4 @@ private:
     bool unloaded_ = false;
 };
 
-// The word shown for the family of a selection: "VXF", "CSV", "QDF", ...; a JLM or P4F file
-// standing under another family code is named by its extension.
-QString familyWord(int fileType, const QString& firstFile);
+// familyWord (the word shown for the family of a selection) is in recording/FileRecognition.h.
