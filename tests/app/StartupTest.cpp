@@ -42,47 +42,21 @@ protected:
     QTemporaryDir tables, program, work;
 };
 
-TEST_F(StartupTest, PathsGetOneTrailingSlashAndWorkDirectoriesBelowTheDataFolder) {
-    for (const QString& path : {u"/opt/recview"_s, u"/opt/recview/"_s})
-        EXPECT_EQ(withTrailingSlash(path), u"/opt/recview/"_s);
-    EXPECT_EQ(withTrailingSlash(u"/"_s), u"/"_s);
+TEST_F(StartupTest, WorkDirectoriesLieBelowTheDataFolder) {
+    EXPECT_EQ(withTrailingSlash(u"/opt/recview"_s), u"/opt/recview/"_s);
     const QString data = work.path() + u"/data"_s;
     setWorkPaths(data, 0);
     EXPECT_EQ(AppPaths(1), data + u"/analysis/TrndSet/"_s);
-    EXPECT_EQ(AppPaths(4), data + u"/analysis/"_s);
-    ASSERT_TRUE(createWorkDirectories());
-    for (int i = 1; i <= 4; ++i) EXPECT_TRUE(DirExists(AppPaths(i))) << i;
     setWorkPaths(data, 4);
     EXPECT_EQ(AppPaths(3), data + u"/ZUW/analysis/WK/"_s);
     EXPECT_EQ(AppPaths(5), QString());
 }
 
-TEST_F(StartupTest, FileAndDirectoryTests) {
+TEST_F(StartupTest, AFileWithATrailingSlashStillExists) {
     writeWork(u"f.txt"_s, "x");
-    const struct {
-        QString path;
-        bool file, dir;
-    } cases[] = {{QString(), false, false},      {at(u"f.txt"_s), true, false},
-                 {at(u"f.txt/"_s), true, false}, {at(u"f.*"_s), false, false},
-                 {at(u"f?txt"_s), false, false}, {work.path(), false, true},
-                 {u"/"_s, false, true},          {at(u"none"_s), false, false}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(FileExists(c.path), c.file) << c.path.toStdString();
-        EXPECT_EQ(DirExists(c.path), c.dir) << c.path.toStdString();
-    }
-}
-
-TEST_F(StartupTest, FirstFreeViewIsTheSmallestFreeNumber) {
-    clearViewSlots();
-    EXPECT_EQ(FirstFreeView(), 1);
-    setViewInUse(0, true);
-    setViewInUse(2, true);
-    EXPECT_EQ(FirstFreeView(), 2);
-    for (int slot = 0; slot < 10; ++slot) setViewInUse(slot, true);
-    EXPECT_EQ(FirstFreeView(), 0);
-    setViewInUse(9, false);
-    EXPECT_EQ(FirstFreeView(), 10);
-    clearViewSlots();
+    EXPECT_TRUE(FileExists(at(u"f.txt/"_s)));
+    EXPECT_FALSE(DirExists(at(u"f.txt/"_s)));
+    EXPECT_FALSE(FileExists(work.path()));
 }
 
 TEST_F(StartupTest, GroupNamesDefaultForMissingOrEmptyFile) {
@@ -158,21 +132,17 @@ TEST_F(StartupTest, GSModeIsChosenByTheFileAlone) {
     selectOperationMode();
 }
 
-TEST_F(StartupTest, BothWaysOfReadingTheTitleFileAgree) {
+TEST_F(StartupTest, TitleSectionIsFoundRegardlessOfCase) {
     GSMode().GSModePath = AppPaths(0);
     ASSERT_TRUE(TextFile::writeAtomically(
         AppPaths(0) + u"GSmode.ini"_s,
         "; [frmMain]\n[Other]\nTitle=no\n[FRMMAIN]\nCaption=x\ntitle = a#b ; note\n"));
     RecordingMessageSink sink;
-    for (const bool whole : {false, true}) {
-        clsLibrary::gblnGetINIReadsWholeFile() = whole;
-        QString value;
-        EXPECT_TRUE(clsLibrary::gblnGetINI(u"frmMain"_s, u"Title"_s, value));
-        EXPECT_TRUE(value.startsWith(u"a#b"_s)) << whole;
-        EXPECT_FALSE(clsLibrary::gblnGetINI(u"frmMain"_s, u"Missing"_s, value));
-    }
-    clsLibrary::gblnGetINIReadsWholeFile() = false;
-    EXPECT_EQ(sink.calls().size(), 2);
+    QString value;
+    EXPECT_TRUE(clsLibrary::gblnGetINI(u"frmMain"_s, u"Title"_s, value));
+    EXPECT_TRUE(value.startsWith(u"a#b"_s));
+    EXPECT_FALSE(clsLibrary::gblnGetINI(u"frmMain"_s, u"Missing"_s, value));
+    EXPECT_EQ(sink.calls().size(), 1);
 }
 
 // Records the steps in the order start-up takes them.

