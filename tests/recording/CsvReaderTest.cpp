@@ -65,7 +65,6 @@ TEST_F(CsvReader, AlarmColumnsEndTheChannelsAndGiveAlarmDigits) {
                             "2024/05/06 10:00:01,3,4,//r,R x H"};
     ASSERT_TRUE(load(lines).ok());
     EXPECT_EQ(view.ChannelCount, 2);
-    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("mA"));
     EXPECT_EQ(cellText(1, 1), QLatin1String("1200"));
     EXPECT_EQ(cellText(3, 1), QLatin1String("0000"));
     EXPECT_EQ(cellText(1, 2), QLatin1String("0040"));

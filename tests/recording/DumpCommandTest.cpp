@@ -42,13 +42,11 @@ TEST(DumpCommand, PrintsTheRecordingAsTheReaderStoresIt) {
     EXPECT_EQ(j["family"], 0);
     EXPECT_EQ(j["interval_ms"], 500);
     EXPECT_EQ(j["start"], "2025-12-31 23:59:58");
-    EXPECT_EQ(j["start_msec"], 300);
     EXPECT_EQ(j["point_count"], 4);
     ASSERT_EQ(j["channels"].size(), 2u);
     EXPECT_EQ(j["channels"][0]["tag"], "Temp");
     EXPECT_EQ(j["channels"][0]["color"], 100 + 256 * 65 + 65536 * 205); // colour code 1
     ASSERT_EQ(j["messages"].size(), 1u);
-    EXPECT_EQ(j["messages"][0]["time"], "2025-12-31 23:59:59");
     EXPECT_EQ(j["messages"][0]["text"], "Door open");
     const json expectedCells = {{"0000", "2.01", "0000", "20.2"},
                                 {"0000", "3.01", "1000", "UNDER"}};
@@ -80,7 +78,6 @@ TEST(DumpCommand, InfoSummarisesAndBadArgumentsAreRefused) {
                   .exitCode,
               2);
     EXPECT_EQ(recview({QStringLiteral("info")}).exitCode, 2);
-    EXPECT_EQ(recview({QStringLiteral("--version")}).out.trimmed(), QByteArray("recview 0.1.0"));
     EXPECT_NE(recview({QStringLiteral("info"), dir.path(QStringLiteral("none.vxf"))}).exitCode, 0);
 }
 

