@@ -26,7 +26,6 @@ TEST(ShowMsg, KindsGiveTheirFlagsAndDefaults) {
         const char* shownTitle;
     } cases[] = {
         {1, "Delete?", "", "Delete?", 36, "Viewer"},
-        {1, "", "", "", 36, "Viewer"},
         {2, "", "", "Failed.", 48, "Viewer"},
         {2, "Own", "Mine", "Own", 48, "Mine"},
         {3, "", "", "", 16, "Error"},
@@ -60,7 +59,6 @@ TEST(ShowMsg, ButtonSetsFollowTheLowThreeBitsAndTheFirstAnswersWithoutSink) {
         {4, {yes, no}},
         {5, {retry, cancel}},
         {36, {yes, no}},
-        {33, {ok, cancel}},
         {48, {ok}},
         {7, {ok}},
     };
