@@ -1,8 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/LanguageTable.h"
 #include "app/TimeBase.h"
-#include "recording/clsCSV.h"
 #include "support/CsvWriter.h"
 #include "support/RecordingFixture.h"
 
@@ -70,9 +68,6 @@ TEST_F(CsvReader, AlarmColumnsEndTheChannelsAndGiveAlarmDigits) {
     EXPECT_EQ(cellText(1, 2), QLatin1String("0040"));
     EXPECT_EQ(cellText(3, 2), QLatin1String("3010"));
     EXPECT_EQ(cellText(4, 2), QLatin1String("4"));
-    // At most four levels are taken.
-    const QString h = MsgText(486);
-    EXPECT_EQ(clsCSV::AlmDataCnv(h + "/" + h + "/" + h + "/" + h + "/" + h), QLatin1String("1111"));
 }
 
 TEST_F(CsvReader, UnreadableDatesAndShortLinesFailWithNothingShown) {

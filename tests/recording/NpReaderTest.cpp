@@ -35,7 +35,6 @@ TEST_F(NpReader, SixteenBitFileFillsChannelsAndCells) {
     ASSERT_TRUE(loadFiles({dir.write("a.n5f", buildNp(d))}).ok());
     EXPECT_EQ(view.ViewStart, TimeBase::toSeconds({2024, 5, 6, 10, 0, 0}));
     EXPECT_EQ(view.ViewStartMsec, 512);
-    EXPECT_EQ(view.SampleInterval, 1000);
     EXPECT_EQ(view.Channels.ChTag[2], QLatin1String("No7"));
     EXPECT_EQ(view.Channels.ChColor[1], ColorMapOfNPSeries().GetColor(2));
     const struct {
