@@ -8,11 +8,11 @@
 #include <QStringList>
 
 // Opens files as the command line does into view 1 and loads them.
-inline LoadOutcome loadFiles(const QStringList& paths, bool gsMode = false) {
+inline LoadOutcome loadFiles(const QStringList& paths, bool gsMode = false,
+                             LoadOptions options = {}) {
     CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(paths), gsMode);
     ViewTables& view = views(1);
     copySelectionToView(view);
-    LoadOptions options;
     options.gsMode = gsMode;
     return LoadRecording(view, options);
 }

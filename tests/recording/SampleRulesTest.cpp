@@ -8,34 +8,18 @@ namespace {
 using SampleRules::plainText;
 
 TEST(PlainRule, NumbersAndStatusWords) {
+    // Decimals outside 0..4 show none, the value still divided.
     struct Case {
         qint16 v;
         int d;
         const char* text;
-    } const cases[] = {
-        {32760, 1, "3276.0"},
-        {-32760, 0, "-32760"},
-        {-5, 1, "-0.5"},
-        {0, 4, "0.0000"},
-        {1234, 2, "12.34"},
-        {7, 3, "0.007"},
-        {32761, 1, ""},
-        {32763, 0, ""},
-        {32764, 0, "CAL ERR"},
-        {32765, 0, "RJ ERR"},
-        {32766, 0, "BURN"},
-        {32767, 2, "OVER"},
-        {-32768, 0, "OVERFLW"},
-        {-32767, 0, "UNDER"},
-        {-32766, 0, "N.DATA"},
-        {-32765, 1, "N.DATA"},
-        {-32764, 0, ""},
-        {-32761, 0, ""},
-        // Decimals outside 0..4 show none, the value still divided.
-        {12345, 5, "0"},
-        {25, 6, "0"},
-        {15, 1, "1.5"},
-    };
+    } const cases[] = {{32760, 1, "3276.0"},   {-32760, 0, "-32760"}, {-5, 1, "-0.5"},
+                       {0, 4, "0.0000"},       {1234, 2, "12.34"},    {7, 3, "0.007"},
+                       {32761, 1, ""},         {32763, 0, ""},        {32764, 0, "CAL ERR"},
+                       {32765, 0, "RJ ERR"},   {32766, 0, "BURN"},    {32767, 2, "OVER"},
+                       {-32768, 0, "OVERFLW"}, {-32767, 0, "UNDER"},  {-32766, 0, "N.DATA"},
+                       {-32765, 1, "N.DATA"},  {-32764, 0, ""},       {-32761, 0, ""},
+                       {12345, 5, "0"},        {25, 6, "0"},          {15, 1, "1.5"}};
     for (const Case& c : cases)
         EXPECT_EQ(plainText(c.v, c.d), QLatin1String(c.text)) << c.v << "/" << c.d;
 }

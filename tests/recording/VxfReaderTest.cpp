@@ -206,17 +206,14 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
         void setValue(int) override {}
         bool poll() override { return true; }
     } progress;
-    const QString path = dir.write("c.vxf", buildVxf(vxf(1, 5000)));
-    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), false);
-    ViewTables& v = views(1);
-    copySelectionToView(v);
     int asked = 0;
     LoadOptions options;
     options.progress = &progress;
     options.confirmCancel = [&] { return ++asked == 2; }; // "no" once, then "yes"
-    EXPECT_EQ(LoadRecording(v, options).status, LoadOutcome::Status::Cancelled);
+    const QString path = dir.write("c.vxf", buildVxf(vxf(1, 5000)));
+    EXPECT_EQ(loadFiles({path}, false, options).status, LoadOutcome::Status::Cancelled);
     EXPECT_EQ(asked, 2);
-    EXPECT_EQ(v.PointCount, 0);
+    EXPECT_EQ(view.PointCount, 0);
 }
 
 TEST_F(VxfReader, LongRecordingsCapTheSixteenBitRowCount) {
