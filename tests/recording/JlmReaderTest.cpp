@@ -19,12 +19,7 @@ JlmDescription threeRows() {
     return d;
 }
 
-class JlmReader : public ::testing::Test {
-protected:
-    void SetUp() override { FileJoinByOrder = 0; }
-    FixtureDir dir;
-    const ViewTables& view = views(1);
-};
+using JlmReader = RecordingTest;
 
 TEST_F(JlmReader, HeaderRowsAndValuesRoundedToTheirDecimals) {
     ASSERT_TRUE(loadFiles({dir.write("v.jlm", buildJlm(threeRows()))}).ok());

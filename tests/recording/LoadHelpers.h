@@ -4,8 +4,11 @@
 #include "recording/RecordingLoader.h"
 #include "recording/RowPlacement.h"
 #include "recording/SelectionLists.h"
+#include "support/RecordingFixture.h"
 
 #include <QStringList>
+
+#include <gtest/gtest.h>
 
 // Opens files as the command line does into view 1 and loads them.
 inline LoadOutcome loadFiles(const QStringList& paths, bool gsMode = false,
@@ -22,3 +25,11 @@ inline QString cellText(int col, int row, int view = 1) {
     views(view).Storage.GetText(col, row, t);
     return t;
 }
+
+// Reader tests: a scratch folder, view 1, and rows placed by time.
+class RecordingTest : public ::testing::Test {
+protected:
+    void SetUp() override { FileJoinByOrder = 0; }
+    FixtureDir dir;
+    const ViewTables& view = views(1);
+};

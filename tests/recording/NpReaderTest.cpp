@@ -22,12 +22,7 @@ NpDescription twoChannels() {
     return d;
 }
 
-class NpReader : public ::testing::Test {
-protected:
-    void SetUp() override { FileJoinByOrder = 0; }
-    FixtureDir dir;
-    const ViewTables& view = views(1);
-};
+using NpReader = RecordingTest;
 
 TEST_F(NpReader, SixteenBitFileFillsChannelsAndCells) {
     NpDescription d = twoChannels();

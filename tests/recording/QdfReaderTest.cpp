@@ -32,12 +32,7 @@ QdfDescription mixedGroups() {
     return d;
 }
 
-class QdfReader : public ::testing::Test {
-protected:
-    void SetUp() override { FileJoinByOrder = 0; }
-    FixtureDir dir;
-    const ViewTables& view = views(1);
-};
+using QdfReader = RecordingTest;
 
 TEST_F(QdfReader, GroupsGiveChannelsValuesAndAlarmPlanes) {
     ASSERT_TRUE(loadFiles({dir.write("a.qdf", buildQdf(mixedGroups()))}).ok());

@@ -30,12 +30,7 @@ QByteArray oneChannel(const QByteArray& startText, int rows, qint16 count = 0) {
     return buildTm(d);
 }
 
-class TmReader : public ::testing::Test {
-protected:
-    void SetUp() override { FileJoinByOrder = 0; }
-    FixtureDir dir;
-    const ViewTables& view = views(1);
-};
+using TmReader = RecordingTest;
 
 TEST_F(TmReader, HeadAndChannelTablesFillTheView) {
     ASSERT_TRUE(loadFiles({dir.write("run.dat", buildTm(twoChannels({{0, 0}, {1, 1}})))}).ok());

@@ -21,9 +21,8 @@ VxfDescription vxf(int channels, int rows, quint32 start = kStart) {
     return simpleVxf(channels, rows, start, 10, rowTimesTen);
 }
 
-class VxfReader : public ::testing::Test {
+class VxfReader : public RecordingTest {
 protected:
-    void SetUp() override { FileJoinByOrder = 0; }
     // Writes the files as f0.vxf, f1.vxf, ... and opens them as the command line does.
     LoadOutcome load(std::initializer_list<VxfDescription> files) {
         QStringList paths;
@@ -31,8 +30,6 @@ protected:
             paths << dir.write(QStringLiteral("f%1.vxf").arg(paths.size()), buildVxf(d));
         return loadFiles(paths);
     }
-    FixtureDir dir;
-    const ViewTables& view = views(1);
 };
 
 TEST_F(VxfReader, NarrowFileFillsChannelsCellsAndView) {
