@@ -1,5 +1,6 @@
 #include "recording/clsStorage.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -50,6 +51,20 @@ TEST(Storage, SaveAndLoadRoundTrip) {
     EXPECT_EQ(cell(back, 2, 2), QLatin1String("UNDER"));
     EXPECT_EQ(cell(back, 2, 3), QString());
     EXPECT_EQ(cell(back, 4, 2), QStringLiteral("温度1234")); // 8 bytes of cp932
+}
+
+TEST(Storage, LoadOfABadFileLeavesTheStoreAsItWas) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("bad.bin"));
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(QByteArray("\x05\0\0\0\x02\0\0\0short", 13));
+    f.close();
+    clsStorage s = sized(2, 1);
+    s.SetText(1, 1, QStringLiteral("keep"));
+    EXPECT_FALSE(s.LoadFromFile(path));
+    EXPECT_FALSE(s.TryLoadFile(dir.filePath(QStringLiteral("missing")), 1));
+    EXPECT_EQ(cell(s, 1, 1), QLatin1String("keep"));
 }
 
 } // namespace
