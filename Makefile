@@ -5,6 +5,9 @@ CMAKE_FLAGS ?=
 JOBS        ?= 2
 # Builds take a lock so that several checkouts or agents never compile at once on a small machine.
 LOCK        := flock /tmp/recview-build.lock
+# ccache, when present, lets several checkouts share their compiled objects.
+CCACHE      := $(shell command -v ccache 2>/dev/null)
+export CCACHE_BASEDIR := $(CURDIR)
 
 .PHONY: run test test-asan bench fuzz deps configure build
 
@@ -12,13 +15,14 @@ deps:
 	@scripts/install-deps
 
 configure: deps
-	@cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) $(CMAKE_FLAGS) > /dev/null
+	@cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) \
+	  $(if $(CCACHE),-DCMAKE_CXX_COMPILER_LAUNCHER=$(CCACHE)) $(CMAKE_FLAGS) > /dev/null
 
 build: configure
 	@$(LOCK) cmake --build $(BUILD_DIR) -j $(JOBS)
 
 run: build
-	$(BUILD_DIR)/recview $(wildcard $(BUILD_DIR)/samples/*.vxf)
+	$(BUILD_DIR)/recview $(BUILD_DIR)/samples/*.vxf
 
 test: build
 	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)

@@ -19,7 +19,7 @@ QStringList gFiles;
 void BM_LoadRecording(benchmark::State& state) {
     qint64 fileBytes = 0;
     for (const QString& f : gFiles) fileBytes += QFileInfo(f).size();
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
     for (auto _ : state) {
         CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(gFiles), false);
         copySelectionToView(view);
@@ -43,7 +43,8 @@ BENCHMARK(BM_LoadRecording)->Unit(benchmark::kMillisecond)->UseRealTime()->Itera
 int main(int argc, char** argv) {
     const QString dir = qEnvironmentVariable("RECVIEW_BENCH_DIR", BenchFiles::defaultDir());
     if (argc > 1 && QLatin1String(argv[1]) == QLatin1String("--generate")) {
-        for (const QString& f : BenchFiles::ensureRecording(dir)) std::printf("%s\n", qPrintable(f));
+        for (const QString& f : BenchFiles::ensureRecording(dir))
+            std::printf("%s\n", qPrintable(f));
         return 0;
     }
     gFiles = BenchFiles::ensureRecording(dir);

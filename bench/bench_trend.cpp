@@ -56,7 +56,7 @@ BENCHMARK(BM_TrendRender1920x1080)->Unit(benchmark::kMillisecond)->UseRealTime()
 // Values as plotted (engineering units, gaps left empty), one row a sample.
 int writeCsv(const QString& path) {
     if (!loadView()) return 1;
-    const ViewTables& v = views(1);
+    const ViewState& v = views(1);
     std::FILE* out = std::fopen(qPrintable(path), "w");
     if (!out) return 1;
     std::vector<StoreColumnReader> readers;

@@ -20,6 +20,8 @@ function(recview_test name dir)
         COMMAND ${CMAKE_COMMAND} -E copy_if_different ${PROJECT_SOURCE_DIR}/data/langVX.txt
                 $<TARGET_FILE_DIR:${name}>/langVX.txt)
     add_test(NAME ${name} COMMAND ${name})
+    # A hung test fails after the timeout instead of stopping the run.
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen"
-                                            WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+                                            WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
+                                            TIMEOUT 300)
 endfunction()

@@ -25,7 +25,7 @@ int fuzzLoad(const uint8_t* data, size_t size, const char* extension, bool gsMod
     sel.clear();
     CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), gsMode);
     if (sel.SelFileCount == 0) return 0;
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
     copySelectionToView(view);
     LoadOptions options;
     options.gsMode = gsMode;

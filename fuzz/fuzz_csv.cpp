@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (!f.open(QIODevice::WriteOnly)) return 0;
         f.write(reinterpret_cast<const char*>(data), qint64(size));
     }
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
     const LoadOutcome outcome = openSingleCsv(path, view, LoadOptions());
     if (!outcome.ok() && (view.PointCount != 0 || view.Storage.MaxCols() != 0)) std::abort();
     return 0;

@@ -1,8 +1,8 @@
-#include "app/ShowMsg.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
 #include "app/widgets/DesktopStartup.h"
-#include "app/widgets/frmMessageBox.h"
+#include "base/ShowMsg.h"
+#include "base/widgets/frmMessageBox.h"
 #include "savedwork/SavedTrendSettings.h"
 
 #include <QApplication>

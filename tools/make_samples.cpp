@@ -1,7 +1,7 @@
 // Writes the bundled sample recordings: a heat-treatment furnace with 8 channels over two days at
 // a 10 s interval, as two VXF files of one batch that the reader joins by time. Day 1 holds an
 // over-temperature alarm episode and operator messages; day 2 a thermocouple burn-out.
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "support/VxfWriter.h"
 
 #include <QDir>
@@ -24,10 +24,10 @@ struct ChannelSpec {
     double base, swing;
 };
 const ChannelSpec kSpecs[kChannels] = {
-    {"Zone1-T", "degC", 1, 850, 30},  {"Zone2-T", "degC", 1, 845, 28},
-    {"Zone3-T", "degC", 1, 840, 26},  {"Load-T", "degC", 1, 800, 60},
-    {"O2", "%", 2, 2.1, 0.6},         {"Press", "kPa", 2, 101.3, 0.8},
-    {"Gas", "m3/h", 1, 42, 9},        {"Fan", "rpm", 0, 1450, 40},
+    {"Zone1-T", "degC", 1, 850, 30}, {"Zone2-T", "degC", 1, 845, 28},
+    {"Zone3-T", "degC", 1, 840, 26}, {"Load-T", "degC", 1, 800, 60},
+    {"O2", "%", 2, 2.1, 0.6},        {"Press", "kPa", 2, 101.3, 0.8},
+    {"Gas", "m3/h", 1, 42, 9},       {"Fan", "rpm", 0, 1450, 40},
 };
 
 qint16 sampleAt(int day, int row, int ch) {
@@ -36,7 +36,8 @@ qint16 sampleAt(int day, int row, int ch) {
     const double cycle = std::sin(2 * M_PI * t * 3 + ch * 0.7);
     const double ripple = std::sin(2 * M_PI * t * 97 + ch) * 0.08;
     double v = s.base + s.swing * (cycle + ripple);
-    if (day == 0 && ch == 0 && row > 3000 && row < 3400) v += 60 * std::sin(M_PI * (row - 3000) / 400.0);
+    if (day == 0 && ch == 0 && row > 3000 && row < 3400)
+        v += 60 * std::sin(M_PI * (row - 3000) / 400.0);
     return qint16(std::lround(v * std::pow(10.0, s.decimals)));
 }
 

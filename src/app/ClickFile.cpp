@@ -1,7 +1,7 @@
 #include "app/ClickFile.h"
 
-#include "app/AppPaths.h"
-#include "app/TextFile.h"
+#include "base/AppPaths.h"
+#include "base/TextFile.h"
 
 namespace {
 

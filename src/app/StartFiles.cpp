@@ -1,9 +1,9 @@
 #include "app/StartFiles.h"
 
-#include "app/AppPaths.h"
-#include "app/PathChecks.h"
-#include "app/TextFile.h"
-#include "app/VbFormat.h"
+#include "base/AppPaths.h"
+#include "base/PathChecks.h"
+#include "base/TextFile.h"
+#include "base/VbFormat.h"
 
 #include <QFile>
 

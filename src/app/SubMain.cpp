@@ -1,12 +1,12 @@
 #include "app/SubMain.h"
 
-#include "app/AppPaths.h"
-#include "app/GSMode.h"
 #include "app/StartFiles.h"
-#include "app/ViewSlots.h"
-#include "app/clsCommon.h"
-#include "app/clsConst.h"
-#include "app/clsLibrary.h"
+#include "base/AppPaths.h"
+#include "base/GSMode.h"
+#include "base/clsCommon.h"
+#include "base/clsConst.h"
+#include "base/clsLibrary.h"
+#include "recording/ViewSlots.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "platform/AxisScale.h"
 
-#include "app/NumberText.h"
+#include "base/NumberText.h"
 #include "platform/ChartAxis.h"
 
 #include <QLocale>

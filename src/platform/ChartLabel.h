@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/WinColor.h"
+#include "base/WinColor.h"
 #include "platform/ChartTypes.h"
 
 #include <QColor>

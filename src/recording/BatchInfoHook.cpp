@@ -1,5 +1,5 @@
 #include "recording/BatchInfoHook.h"
 
-bool ReadBatchInfo(ViewTables&, const FileBytes&, qint64, qint64) {
+bool ReadBatchInfo(ViewState&, const FileBytes&, qint64, qint64) {
     return false;
 }

@@ -1,6 +1,6 @@
 #include "recording/CsvLoader.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"
 #include "recording/FamilyCodes.h"
@@ -24,7 +24,7 @@ quint16 alarmCell(const QString& digits) {
     return cell;
 }
 
-void fillChannels(ViewTables& view, const clsCSV& csv, int channels) {
+void fillChannels(ViewState& view, const clsCSV& csv, int channels) {
     ChannelTable& t = view.Channels;
     for (int i = 1; i <= channels; ++i) {
         t.setTag(i, csv.GetTagName(i));
@@ -43,7 +43,7 @@ int countRows(clsCSV& csv) {
     return rows;
 }
 
-void readRows(ViewTables& view, clsCSV& csv, int channels, const ReaderFrame& frame) {
+void readRows(ViewState& view, clsCSV& csv, int channels, const ReaderFrame& frame) {
     clsStorage& store = view.Storage;
     const int rows = csv.GetDataCount();
     QVector<quint16*> alarms(channels + 1);
@@ -65,7 +65,7 @@ void readRows(ViewTables& view, clsCSV& csv, int channels, const ReaderFrame& fr
 
 } // namespace
 
-LoadOutcome LoadFileDataCsv(ViewTables& view, const LoadOptions& options) {
+LoadOutcome LoadFileDataCsv(ViewState& view, const LoadOptions& options) {
     const ReaderFrame frame(view, options);
     frame.begin();
     view.FileCount = 1;
@@ -107,7 +107,7 @@ LoadOutcome LoadFileDataCsv(ViewTables& view, const LoadOptions& options) {
     return outcome;
 }
 
-LoadOutcome openSingleCsv(const QString& path, ViewTables& view, const LoadOptions& options) {
+LoadOutcome openSingleCsv(const QString& path, ViewState& view, const LoadOptions& options) {
     SelectionLists& sel = selection();
     sel.clear();
     sel.append(path, 0, 0);

@@ -1,7 +1,7 @@
 #include "recording/DroppedFiles.h"
 
-#include "app/LanguageTable.h"
-#include "app/ShowMsg.h"
+#include "base/LanguageTable.h"
+#include "base/ShowMsg.h"
 #include "recording/FamilyCodes.h"
 #include "recording/FileRecognition.h"
 
@@ -15,15 +15,18 @@ using FileRecognition::CheckMagic;
 int classify(const QString& path, bool gsMode) {
     const QString ext = FileRecognition::extensionOf(path);
     if (ext == QLatin1String(".VXB")) return Family::VXB;
-    if (gsMode) return ext == QLatin1String(".P4F") && CheckMagic(path, Family::P4F) ? Family::P4F : -1;
+    if (gsMode)
+        return ext == QLatin1String(".P4F") && CheckMagic(path, Family::P4F) ? Family::P4F : -1;
     if (ext == QLatin1String(".CSV")) return Family::CSV;
     if (ext == QLatin1String(".JLM")) return Family::JLM;
     struct ByExt {
         const char* ext;
         int family;
     };
-    static const ByExt kTested[] = {{".VXF", Family::VXF}, {".QDF", Family::QDF},
-                                    {".N5F", Family::N5F}, {".P4F", Family::P4F},
+    static const ByExt kTested[] = {{".VXF", Family::VXF},
+                                    {".QDF", Family::QDF},
+                                    {".N5F", Family::N5F},
+                                    {".P4F", Family::P4F},
                                     {".MSG", Family::MSG}};
     for (const ByExt& e : kTested)
         if (ext == QLatin1String(e.ext)) return CheckMagic(path, e.family) ? e.family : -1;
@@ -34,7 +37,7 @@ int classify(const QString& path, bool gsMode) {
 
 namespace DroppedFiles {
 
-bool OpenDroppedFiles(const QStringList& files, ViewTables& view, bool gsMode, SelectionLists& sel) {
+bool OpenDroppedFiles(const QStringList& files, ViewState& view, bool gsMode, SelectionLists& sel) {
     const SelectionLists saved = sel;
     QMap<int, QStringList> byFamily;
     bool messageFiles = false;

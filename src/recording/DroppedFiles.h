@@ -1,7 +1,7 @@
 #pragma once
 
 #include "recording/SelectionLists.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 
 #include <QStringList>
 
@@ -13,7 +13,7 @@ namespace DroppedFiles {
 // priority (VXB, CSV, VXF, TM, QDF, N5F/P4F, JLM). Shows message 553 when nothing can be opened
 // and 561 when no file of the chosen family has a readable header of the common interval, in
 // which case the selection is restored. True when the selection is to be opened.
-bool OpenDroppedFiles(const QStringList& files, ViewTables& view, bool gsMode,
+bool OpenDroppedFiles(const QStringList& files, ViewState& view, bool gsMode,
                       SelectionLists& sel = selection());
 
 } // namespace DroppedFiles

@@ -1,6 +1,6 @@
 #include "recording/FamilyHeads.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/FamilyCodes.h"
 
 #include <bit>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "recording/FileBytes.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 
 #include <QString>
 
@@ -13,7 +13,7 @@ struct LoadCancelled {};
 
 // One file in the hands of a format reader.
 struct FileLoad {
-    ViewTables& view;
+    ViewState& view;
     const FileBytes& bytes;
     int fileIndex = 0; // 0-based position in the view's file list
     bool gsMode = false;

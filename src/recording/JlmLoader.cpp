@@ -1,8 +1,8 @@
 #include "recording/JlmLoader.h"
 
-#include "app/LanguageTable.h"
-#include "app/NumberText.h"
-#include "app/VbFormat.h"
+#include "base/LanguageTable.h"
+#include "base/NumberText.h"
+#include "base/VbFormat.h"
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"
 #include "recording/Cp932.h"
@@ -37,7 +37,7 @@ QString cellsText(const FileBytes& b, qint64 first, qint64 firstLength, qint64 s
 
 class JlmReader {
 public:
-    JlmReader(ViewTables& view, const ReaderFrame& frame) : view_(view), frame_(frame) {}
+    JlmReader(ViewState& view, const ReaderFrame& frame) : view_(view), frame_(frame) {}
     void readFile(int index);
 
     int channels = 0; // store channels, from the first file
@@ -49,7 +49,7 @@ private:
     void readRows(int index, const FileBytes& b, const JlmHead& h);
     void putValue(int ch, int row, float v, quint16* cell);
 
-    ViewTables& view_;
+    ViewState& view_;
     const ReaderFrame& frame_;
     QVector<int> decimals_;
     qint64 previousMs_ = 0; // time of the previous row, milliseconds since 2000
@@ -150,7 +150,7 @@ void JlmReader::readFile(int index) {
 
 } // namespace
 
-LoadOutcome LoadJlm(ViewTables& view, const LoadOptions& options) {
+LoadOutcome LoadJlm(ViewState& view, const LoadOptions& options) {
     const ReaderFrame frame(view, options);
     frame.begin();
     view.FileStart.resize(view.FileCount);

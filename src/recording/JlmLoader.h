@@ -3,4 +3,4 @@
 #include "recording/RecordingLoader.h"
 
 // JLM files have a reader of their own beside the core reader.
-LoadOutcome LoadJlm(ViewTables& view, const LoadOptions& options);
+LoadOutcome LoadJlm(ViewState& view, const LoadOptions& options);

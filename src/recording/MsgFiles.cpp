@@ -1,6 +1,6 @@
 #include "recording/MsgFiles.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/Cp932.h"
 #include "recording/ReaderFrame.h"
 
@@ -23,7 +23,7 @@ int fullYear(int yy) {
     return yy < 30 ? 2000 + yy : 1900 + yy;
 }
 
-void readMsgFile(ViewTables& view, const QByteArray& bytes) {
+void readMsgFile(ViewState& view, const QByteArray& bytes) {
     // The 4-byte magic is passed over; the rest is records of 44 characters.
     for (int i = 0; i < kMaxRecords; ++i) {
         const qsizetype at = 4 + kRecordSize * i;
@@ -44,7 +44,7 @@ void readMsgFile(ViewTables& view, const QByteArray& bytes) {
 
 } // namespace
 
-void ReadMsgFiles(ViewTables& view) {
+void ReadMsgFiles(ViewState& view) {
     for (const QString& path : view.MessageFiles) {
         QByteArray bytes;
         // A message file that cannot be read adds nothing.

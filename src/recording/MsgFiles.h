@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 
 // Reads the MSG files of the view's message list into its messages, after the data files.
-void ReadMsgFiles(ViewTables& view);
+void ReadMsgFiles(ViewState& view);

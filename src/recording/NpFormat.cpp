@@ -1,6 +1,6 @@
 #include "recording/NpFormat.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"
 #include "recording/RecordingLimits.h"

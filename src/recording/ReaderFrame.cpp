@@ -1,6 +1,6 @@
 #include "recording/ReaderFrame.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 
 #include <QFile>
 
@@ -19,7 +19,8 @@ void ReaderFrame::poll(int fileIndex, qint64 row, qint64 rows) const {
 }
 
 void ReaderFrame::begin() const {
-    view_.clearRecording();
+    // Nothing of an earlier load of this view carries over: recording and per-view parts alike.
+    view_.reset();
     view_.Loading = true;
     view_.ViewCancel = false;
 }

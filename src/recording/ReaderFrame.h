@@ -10,7 +10,7 @@
 // files and rows, and the whole-file read.
 class ReaderFrame {
 public:
-    ReaderFrame(ViewTables& view, const LoadOptions& options) : view_(view), options_(options) {}
+    ReaderFrame(ViewState& view, const LoadOptions& options) : view_(view), options_(options) {}
 
     // Reports the share 50 / FileCount of file `fileIndex` and asks for a cancel; throws
     // LoadCancelled when the user confirmed it.
@@ -25,7 +25,7 @@ public:
     LoadOutcome fail(LoadOutcome::Status status, int message, const QString& detail = {}) const;
 
 private:
-    ViewTables& view_;
+    ViewState& view_;
     const LoadOptions& options_;
 };
 

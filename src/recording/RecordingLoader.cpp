@@ -1,6 +1,6 @@
 #include "recording/RecordingLoader.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 
 #include "recording/CsvLoader.h"
 #include "recording/FamilyCodes.h"
@@ -22,7 +22,7 @@ namespace {
 
 class CoreReader {
 public:
-    CoreReader(ViewTables& view, const LoadOptions& options)
+    CoreReader(ViewState& view, const LoadOptions& options)
         : view_(view), options_(options), frame_(view, options) {}
     void run();
 
@@ -30,7 +30,7 @@ private:
     void readFile(int index);
     void setUpView(const FormatReader& reader, int format);
 
-    ViewTables& view_;
+    ViewState& view_;
     const LoadOptions& options_;
     ReaderFrame frame_;
     QVector<int> fileChannels_;
@@ -79,11 +79,11 @@ void CoreReader::readFile(int index) {
     channelsKnown = true;
     reader->readAlarmHistory(load);
 
-    qint64 offset = FileJoinByOrder == 1
+    qint64 offset = options_.FileJoinByOrder == 1
                         ? view_.Storage.DataRowCnt()
                         : RowPlacement::offsetByTime(view_.ViewStart, reader->startTime(),
                                                      view_.SampleInterval);
-    if (FileJoinByOrder != 1 && (format == Format::TM6 || format == Format::TM12))
+    if (options_.FileJoinByOrder != 1 && (format == Format::TM6 || format == Format::TM12))
         offset =
             RowPlacement::tmTolerance(offset, view_.Storage.DataRowCnt(), view_.SampleInterval);
     const qint64 lastRow = offset + reader->rowCount();
@@ -108,7 +108,7 @@ QString LoadOutcome::text() const {
     return detail.isEmpty() ? MsgText(message) : MsgText(message) + QLatin1Char('\n') + detail;
 }
 
-void copySelectionToView(ViewTables& view) {
+void copySelectionToView(ViewState& view) {
     const SelectionLists& sel = selection();
     view.FileCount = sel.SelFileCount;
     view.FileName = sel.SelFileName;
@@ -118,7 +118,7 @@ void copySelectionToView(ViewTables& view) {
     view.FileType = sel.SelFileType;
 }
 
-void finishLoad(ViewTables& view, bool firstIsVxf) {
+void finishLoad(ViewState& view, bool firstIsVxf) {
     clsStorage& s = view.Storage;
     const int total = s.MaxRows();
     view.PointCount = total;
@@ -132,7 +132,7 @@ void finishLoad(ViewTables& view, bool firstIsVxf) {
     s.squeeze();
 }
 
-LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options) {
+LoadOutcome LoadRecording(ViewState& view, const LoadOptions& options) {
     const LoadOutcome notHandled{LoadOutcome::Status::NotHandled, 0, {}};
     if (view.FileCount < 1 || view.FileName.isEmpty()) return notHandled;
     const QString ext = FileRecognition::extensionOf(view.FileName.first());

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Progress.h"
-#include "recording/ViewTables.h"
+#include "base/Progress.h"
+#include "recording/ViewState.h"
 
 #include <QString>
 
@@ -20,17 +20,19 @@ struct LoadOutcome {
 
 struct LoadOptions {
     bool gsMode = false;
+    // FileJoinByOrder: rows go behind the last used row instead of by time when this is 1.
+    qint16 FileJoinByOrder = 0;
     Progress* progress = nullptr; // polled between files and rows
     // Asked when the user pressed cancel; true stops the load.
     std::function<bool()> confirmCancel = [] { return true; };
 };
 
 // Copies the selection into the view's file list.
-void copySelectionToView(ViewTables& view);
+void copySelectionToView(ViewState& view);
 
 // Reads the view's files into its store: the core reader with its file loop, joining by batch
 // text and by time or order. On any failure the view is left empty.
-LoadOutcome LoadRecording(ViewTables& view, const LoadOptions& options);
+LoadOutcome LoadRecording(ViewState& view, const LoadOptions& options);
 
 // The end of every load: row counts, shown points and channel counts from the store.
-void finishLoad(ViewTables& view, bool firstIsVxf);
+void finishLoad(ViewState& view, bool firstIsVxf);

@@ -1,8 +1,6 @@
 #include "recording/RowPlacement.h"
 
-#include "app/TimeBase.h"
-
-qint16 FileJoinByOrder = 0;
+#include "base/TimeBase.h"
 
 namespace RowPlacement {
 
@@ -11,9 +9,12 @@ qint64 offsetByTime(qint64 viewStart, qint64 fileStart, qint32 intervalMs) {
     using TimeBase::Unit;
     Unit unit = Unit::Day;
     qint64 unitMs = 86400000;
-    if (intervalMs < 60000) unit = Unit::Second, unitMs = 1000;
-    else if (intervalMs < 3600000) unit = Unit::Minute, unitMs = 60000;
-    else if (intervalMs < 86400000) unit = Unit::Hour, unitMs = 3600000;
+    if (intervalMs < 60000)
+        unit = Unit::Second, unitMs = 1000;
+    else if (intervalMs < 3600000)
+        unit = Unit::Minute, unitMs = 60000;
+    else if (intervalMs < 86400000)
+        unit = Unit::Hour, unitMs = 3600000;
     const qint64 units = TimeBase::boundariesBetween(unit, viewStart, fileStart);
     return units * unitMs / intervalMs; // C++ division truncates toward zero
 }

@@ -19,6 +19,3 @@ qint64 tmTolerance(qint64 byTime, qint64 lastUsedRow, qint32 intervalMs);
 int channelBase(const QVector<QString>& batchTexts, const QVector<int>& fileChannels, int k);
 
 } // namespace RowPlacement
-
-// Rows go behind the last used row instead of by time when this is 1.
-extern qint16 FileJoinByOrder;

@@ -1,6 +1,6 @@
 #include "recording/SampleRules.h"
 
-#include "app/NumberText.h"
+#include "base/NumberText.h"
 
 #include <cmath>
 
@@ -8,16 +8,32 @@ namespace SampleRules {
 
 QString plainText(qint16 v, int decimals) {
     switch (v) {
-    case 32761: case 32762: case 32763: return QString();
-    case 32764: return QStringLiteral("CAL ERR");
-    case 32765: return QStringLiteral("RJ ERR");
-    case 32766: return QStringLiteral("BURN");
-    case 32767: return QStringLiteral("OVER");
-    case -32768: return QStringLiteral("OVERFLW");
-    case -32767: return QStringLiteral("UNDER");
-    case -32766: case -32765: return QStringLiteral("N.DATA");
-    case -32764: case -32763: case -32762: case -32761: return QString();
-    default: break;
+    case 32761:
+    case 32762:
+    case 32763:
+        return QString();
+    case 32764:
+        return QStringLiteral("CAL ERR");
+    case 32765:
+        return QStringLiteral("RJ ERR");
+    case 32766:
+        return QStringLiteral("BURN");
+    case 32767:
+        return QStringLiteral("OVER");
+    case -32768:
+        return QStringLiteral("OVERFLW");
+    case -32767:
+        return QStringLiteral("UNDER");
+    case -32766:
+    case -32765:
+        return QStringLiteral("N.DATA");
+    case -32764:
+    case -32763:
+    case -32762:
+    case -32761:
+        return QString();
+    default:
+        break;
     }
     if (decimals >= 0 && decimals <= 4) return NumberText::scaledIntegerText(v, decimals);
     // Other decimals show no decimal places, but the division still happens in single precision;

@@ -1,9 +1,9 @@
 #include "recording/SelectionChooser.h"
 
-#include "app/LanguageTable.h"
-#include "app/ShowMsg.h"
-#include "app/clsCommon.h"
-#include "app/clsConst.h"
+#include "base/LanguageTable.h"
+#include "base/ShowMsg.h"
+#include "base/clsCommon.h"
+#include "base/clsConst.h"
 #include "recording/FamilyCodes.h"
 #include "recording/FileRecognition.h"
 
@@ -33,11 +33,12 @@ int SelectionChooser::refuse(int message) {
 int SelectionChooser::take(const QString& path, int family) {
     if (!QFileInfo(path).isFile()) return 0;
     Entry entry{path, family, 0, 0, 0};
-    const bool message = family == Family::TM &&
-                         FileRecognition::extensionOf(path) == QLatin1String(".MSG");
+    const bool message =
+        family == Family::TM && FileRecognition::extensionOf(path) == QLatin1String(".MSG");
     if (message) entry.family = Family::MSG;
     if (!chosen_.isEmpty()) {
-        const int listFamily = chosen_.first().family == Family::MSG ? Family::TM : chosen_.first().family;
+        const int listFamily =
+            chosen_.first().family == Family::MSG ? Family::TM : chosen_.first().family;
         if (family != listFamily) return refuse(MsgId(551));
         if (family == Family::VXB || family == Family::CSV) return refuse(MsgId(552));
     }
@@ -82,7 +83,8 @@ QStringList SelectionChooser::messageFiles() const {
 
 qint64 SelectionChooser::dataSize(const QString& path, int family, bool gsMode) {
     HeadInfo info;
-    if (family == Family::VXB || family == Family::CSV || !scan(path, family, gsMode, info)) return 0;
+    if (family == Family::VXB || family == Family::CSV || !scan(path, family, gsMode, info))
+        return 0;
     return qint64(info.channels) * info.points;
 }
 
@@ -102,7 +104,8 @@ bool SelectionChooser::registerSelection(const QString& directory, SelectionList
     qint64 size = 0;
     for (const Entry& e : files) {
         HeadInfo info;
-        if (e.family != Family::VXB && e.family != Family::CSV && scan(e.path, e.family, gsMode_, info))
+        if (e.family != Family::VXB && e.family != Family::CSV &&
+            scan(e.path, e.family, gsMode_, info))
             sel.SelInterval = info.interval;
         sel.append(e.path, info.start, info.startMsec);
         size += dataSize(e.path, e.family, gsMode_);
@@ -111,7 +114,8 @@ bool SelectionChooser::registerSelection(const QString& directory, SelectionList
     viewTitle_ = QFileInfo(files.first().path).fileName();
     const qint64 limit = clsConst::shared().MaximumAlarmCount();
     if (size > limit) {
-        const QString text = MsgText(230) + QString::number(size) + QStringLiteral(" : ") + QString::number(limit);
+        const QString text =
+            MsgText(230) + QString::number(size) + QStringLiteral(" : ") + QString::number(limit);
         if (ShowMsg(6, text) == kNo) {
             sel.clear();
             return false;

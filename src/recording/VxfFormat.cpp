@@ -1,6 +1,6 @@
 #include "recording/VxfFormat.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/BatchInfoHook.h"
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"

@@ -1,9 +1,9 @@
 #include "recording/clsCSV.h"
 
-#include "app/LanguageTable.h"
-#include "app/LocaleInfo.h"
-#include "app/TextFile.h"
-#include "app/TimeBase.h"
+#include "base/LanguageTable.h"
+#include "base/LocaleInfo.h"
+#include "base/TextFile.h"
+#include "base/TimeBase.h"
 #include "recording/ReaderFrame.h"
 
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "savedwork/RecordBytes.h"
 
-#include "app/TextFile.h"
-#include "app/clsLibrary.h"
+#include "base/TextFile.h"
+#include "base/clsLibrary.h"
 #include "recording/Cp932.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "savedwork/RecordNames.h"
 
-#include "app/AppPaths.h"
+#include "base/AppPaths.h"
 
 namespace RecordNames {
 

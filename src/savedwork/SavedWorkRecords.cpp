@@ -1,8 +1,8 @@
 #include "savedwork/SavedWorkRecords.h"
 
-#include "app/NumberText.h"
-#include "app/ViewSlots.h"
-#include "recording/ViewTables.h"
+#include "base/NumberText.h"
+#include "recording/ViewSlots.h"
+#include "recording/ViewState.h"
 #include "savedwork/OleDate.h"
 #include "savedwork/clsAlmStyle.h"
 #include "savedwork/clsFileHeader.h"
@@ -52,7 +52,7 @@ QString withoutBlankFill(QString text) {
 }
 
 TrndParaFixed fixedOfView(int viewNumber) {
-    const ViewTables& v = views(viewNumber);
+    const ViewState& v = views(viewNumber);
     const TrendViewState& t = trendState(viewNumber);
     TrndParaFixed f;
     f.PointCount = v.PointCount;
@@ -79,7 +79,7 @@ TrndParaFixed fixedOfView(int viewNumber) {
 
 // The slot table belongs to the window that opens the view, so ViewInUse is not taken back.
 void fixedToView(int viewNumber, const TrndParaFixed& f) {
-    ViewTables& v = views(viewNumber);
+    ViewState& v = views(viewNumber);
     TrendViewState& t = trendState(viewNumber);
     v.PointCount = f.PointCount;
     t.MarkerCalcValue = f.MarkerCalcValue;

@@ -1,6 +1,7 @@
 #include "trend/AlarmMarks.h"
 
-#include "platform/Progress.h"
+#include "base/Progress.h"
+#include "recording/ViewState.h"
 #include "trend/AlarmStyle.h"
 #include "trend/AlarmTable.h"
 #include "trend/ChartBatch.h"
@@ -9,9 +10,14 @@
 #include <algorithm>
 #include <array>
 
+namespace {
+struct AlarmMarksFlag {
+    bool show = false;
+};
+} // namespace
+
 bool& AlarmMarks::ShowAlarmMarks(int viewNumber) {
-    static std::array<bool, MaxViews> flags{};
-    return flags[size_t(qBound(1, viewNumber, MaxViews) - 1)];
+    return views(viewNumber).part<AlarmMarksFlag>().show;
 }
 
 bool AlarmMarks::afterLoad() {

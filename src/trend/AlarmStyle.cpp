@@ -1,6 +1,6 @@
 #include "trend/AlarmStyle.h"
 
-#include "app/WinColor.h"
+#include "base/WinColor.h"
 #include "trend/TrendViewState.h"
 
 AlarmStyle::AlarmStyle() {

@@ -1,6 +1,6 @@
 #include "trend/AlarmSymbolSettings.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "trend/AlarmMarks.h"
 #include "trend/TrendView.h"
 

@@ -1,8 +1,8 @@
 #include "trend/AlarmTable.h"
 
-#include "app/ShowMsg.h"
+#include "base/ShowMsg.h"
 #include "recording/RecordingLimits.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 
 #include <array>
 #include <new>
@@ -98,7 +98,7 @@ bool AlarmTable::fillColumn(int viewNumber, int channel, Path path) {
 }
 
 bool AlarmTable::fill(int viewNumber, Path path) {
-    const ViewTables& t = views(viewNumber);
+    const ViewState& t = views(viewNumber);
     try {
         resize(t.PointCount, t.ChannelCount);
     } catch (const std::bad_alloc&) {
@@ -116,6 +116,5 @@ bool AlarmTable::fill(int viewNumber, Path path) {
 }
 
 AlarmTable& alarmTable(int viewNumber) {
-    static std::array<AlarmTable, MaxViews> tables;
-    return tables[size_t(qBound(1, viewNumber, MaxViews) - 1)];
+    return views(viewNumber).part<AlarmTable>();
 }

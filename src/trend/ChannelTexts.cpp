@@ -1,10 +1,10 @@
 #include "trend/ChannelTexts.h"
 
-#include "app/LanguageTable.h"
-#include "app/VbFormat.h"
-#include "app/clsConst.h"
+#include "base/LanguageTable.h"
+#include "base/VbFormat.h"
+#include "base/clsConst.h"
 #include "platform/ChartTypes.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 #include "trend/PlotValue.h"
 #include "trend/TrendViewState.h"
 

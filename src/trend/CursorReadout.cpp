@@ -1,6 +1,6 @@
 #include "trend/CursorReadout.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "trend/AlarmTable.h"
 #include "trend/ChannelTexts.h"
 #include "trend/CursorTimeSpan.h"

@@ -1,6 +1,6 @@
 #include "trend/CursorSideGrid.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "trend/AlarmTable.h"
 #include "trend/ChannelTexts.h"
 #include "trend/CursorReadout.h"
@@ -29,7 +29,7 @@ QString statisticText(int view, int channel, int column, double value) {
 } // namespace
 
 void CursorSideGrid::build() {
-    const ViewTables& t = v_.tables();
+    const ViewState& t = v_.tables();
     const int channels = t.ChannelCount;
     grid_.resize(channels + 2, kColumns);
     grid_.setText(0, 1, MsgText(8));

@@ -1,8 +1,8 @@
 #include "trend/CursorTimeSpan.h"
 
-#include "app/LanguageTable.h"
-#include "app/VbFormat.h"
-#include "app/clsConst.h"
+#include "base/LanguageTable.h"
+#include "base/VbFormat.h"
+#include "base/clsConst.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "trend/HoverReadout.h"
 
-#include "app/VbFormat.h"
+#include "base/VbFormat.h"
 #include "platform/ChartGeometry.h"
 #include "trend/ChannelTexts.h"
 #include "trend/PlotValue.h"

@@ -1,9 +1,9 @@
 #include "trend/MultiScaleSet.h"
 
-#include "app/LanguageTable.h"
-#include "app/NumberText.h"
-#include "app/ShowMsg.h"
-#include "app/VbFormat.h"
+#include "base/LanguageTable.h"
+#include "base/NumberText.h"
+#include "base/ShowMsg.h"
+#include "base/VbFormat.h"
 #include "trend/PlotValue.h"
 #include "trend/TrendView.h"
 

@@ -1,9 +1,9 @@
 #include "trend/PlotValue.h"
 
-#include "app/NumberText.h"
-#include "app/VbFormat.h"
+#include "base/NumberText.h"
+#include "base/VbFormat.h"
 #include "platform/ChartTypes.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 
 #include <charconv>
 #include <cmath>

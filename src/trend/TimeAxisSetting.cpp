@@ -1,7 +1,7 @@
 #include "trend/TimeAxisSetting.h"
 
-#include "app/LanguageTable.h"
-#include "app/ShowMsg.h"
+#include "base/LanguageTable.h"
+#include "base/ShowMsg.h"
 #include "trend/TrendTimeAxis.h"
 #include "trend/TrendView.h"
 
@@ -34,7 +34,7 @@ bool TimeAxisSetting::index(const QString& date, const QString& time, qint64 sec
     qint64 day, secs;
     int msec;
     if (!parseDateText(date, day) || !parseTimeText(time, secs, msec)) return false;
-    const ViewTables& t = v_.tables();
+    const ViewState& t = v_.tables();
     out =
         secondsToIndex(day + secs + seconds, msec, t.SampleInterval, t.ViewStart, t.ViewStartMsec);
     return true;

@@ -1,6 +1,6 @@
 #include "trend/TrendCursors.h"
 
-#include "app/VbFormat.h"
+#include "base/VbFormat.h"
 #include "platform/ChartGeometry.h"
 #include "trend/ChartBatch.h"
 #include "trend/TrendView.h"

@@ -1,8 +1,8 @@
 #include "trend/TrendPlot.h"
 
-#include "app/ShowMsg.h"
-#include "app/WinColor.h"
-#include "platform/Progress.h"
+#include "base/Progress.h"
+#include "base/ShowMsg.h"
+#include "base/WinColor.h"
 #include "recording/SampleRules.h"
 #include "trend/LineSeriesSource.h"
 #include "trend/PlotValue.h"
@@ -19,7 +19,7 @@ const QColor kCursorBColor(255, 0, 255);
 } // namespace
 
 void TrendPlot::initLines() {
-    ViewTables& t = v_.tables();
+    ViewState& t = v_.tables();
     TrendViewState& st = v_.state();
     for (int c = 1; c < kLineCount; ++c) {
         TrendLine& line = st.Lines[size_t(c)];
@@ -52,7 +52,7 @@ void TrendPlot::setChannelStyles() {
 
 void TrendPlot::fillSeries(bool direct, Progress* progress) {
     ChartModel& chart = v_.chart();
-    const ViewTables& t = v_.tables();
+    const ViewState& t = v_.tables();
     const TrendViewState& st = v_.state();
     const int c = t.ChannelCount;
     filled_.resize(size_t(c));
@@ -128,7 +128,7 @@ void TrendPlot::ScaleCalculateSet() {
 }
 
 TrendPlot::LoadFill TrendPlot::loadFill(Progress* progress) {
-    ViewTables& t = v_.tables();
+    ViewState& t = v_.tables();
     TrendViewState& st = v_.state();
     ChartModel& chart = v_.chart();
     if (t.PointCount >= MaximumAlarmCount) {

@@ -1,7 +1,7 @@
 #include "trend/TrendScaleAxes.h"
 
-#include "app/VbFormat.h"
-#include "app/WinColor.h"
+#include "base/VbFormat.h"
+#include "base/WinColor.h"
 #include "platform/AxisScale.h"
 #include "trend/PlotValue.h"
 #include "trend/TrendView.h"
@@ -140,7 +140,7 @@ void TrendScaleAxes::ScaleTypeInit() {
 
 void TrendScaleAxes::MultiScaleDisp(bool /*firstTime*/) {
     TrendViewState& st = v_.state();
-    const ViewTables& t = v_.tables();
+    const ViewState& t = v_.tables();
     std::vector<int> rows;
     for (int r = 1; r <= int(st.MultiScaleShown.size()) && int(rows.size()) < kMaxStrips; ++r)
         if (st.MultiScaleShown[size_t(r - 1)]) rows.push_back(r);

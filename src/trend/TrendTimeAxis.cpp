@@ -1,8 +1,8 @@
 #include "trend/TrendTimeAxis.h"
 
-#include "app/TimeBase.h"
-#include "app/VbFormat.h"
-#include "app/clsCommon.h"
+#include "base/TimeBase.h"
+#include "base/VbFormat.h"
+#include "base/clsCommon.h"
 #include "trend/TrendView.h"
 
 #include <QRegularExpression>
@@ -72,7 +72,7 @@ SampleTime sampleTime(qint64 index, qint32 interval, qint64 start, int startMsec
 }
 
 SampleTime SampleTimeText(qint64 index, int viewNumber) {
-    const ViewTables& t = views(viewNumber);
+    const ViewState& t = views(viewNumber);
     return sampleTime(index, t.SampleInterval, t.ViewStart, t.ViewStartMsec);
 }
 
@@ -132,7 +132,7 @@ bool timeToIndex(const QString& dateText, const QString& timeText, qint32 interv
 }
 
 bool TimeToIndex(const QString& dateText, const QString& timeText, int viewNumber, qint64& index) {
-    const ViewTables& t = views(viewNumber);
+    const ViewState& t = views(viewNumber);
     return timeToIndex(dateText, timeText, t.SampleInterval, t.ViewStart, t.ViewStartMsec, index);
 }
 

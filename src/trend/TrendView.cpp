@@ -1,6 +1,6 @@
 #include "trend/TrendView.h"
 
-#include "app/NumberText.h"
+#include "base/NumberText.h"
 #include "trend/PlotValue.h"
 
 TrendView::TrendView(int viewNumber)
@@ -58,7 +58,7 @@ void TrendView::setSavedSettingsReader(SavedSettingsReader reader) {
 }
 
 bool TrendView::afterLoad(Progress* progress) {
-    ViewTables& t = tables();
+    ViewState& t = tables();
     TrendViewState& st = state();
     st.ZoomLevel = 0;
     st.ScrollScale = qint16(t.PointCount < 32768 ? t.PointCount : 32767);

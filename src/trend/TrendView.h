@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/ChartModel.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 #include "trend/TrendPlot.h"
 #include "trend/TrendScaleAxes.h"
 #include "trend/TrendTimeAxis.h"
@@ -54,7 +54,7 @@ public:
     int GetGroup() const { return view_; }
     ChartModel& chart() { return *chart_; }
     const ChartModel& chart() const { return *chart_; }
-    ViewTables& tables() const { return views(view_); }
+    ViewState& tables() const { return views(view_); }
     TrendViewState& state() const { return trendState(view_); }
     TrendWindowState& window() { return window_; }
 

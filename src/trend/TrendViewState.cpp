@@ -1,10 +1,7 @@
 #include "trend/TrendViewState.h"
 
-#include <memory>
+#include "recording/ViewState.h"
 
 TrendViewState& trendState(int viewNumber) {
-    static std::array<std::unique_ptr<TrendViewState>, MaxViews> states;
-    const size_t i = size_t(qBound(1, viewNumber, MaxViews) - 1);
-    if (!states[i]) states[i] = std::make_unique<TrendViewState>();
-    return *states[i];
+    return views(viewNumber).part<TrendViewState>();
 }

@@ -1,7 +1,7 @@
 #include "trend/TrendZoom.h"
 
-#include "app/LanguageTable.h"
-#include "app/VbFormat.h"
+#include "base/LanguageTable.h"
+#include "base/VbFormat.h"
 #include "trend/TrendView.h"
 
 #include <algorithm>

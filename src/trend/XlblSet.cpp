@@ -1,6 +1,6 @@
 #include "trend/XlblSet.h"
 
-#include "app/VbFormat.h"
+#include "base/VbFormat.h"
 #include "trend/TrendView.h"
 
 #include <algorithm>

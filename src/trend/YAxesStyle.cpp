@@ -1,6 +1,6 @@
 #include "trend/YAxesStyle.h"
 
-#include "app/NumberText.h"
+#include "base/NumberText.h"
 #include "trend/PlotValue.h"
 #include "trend/TrendView.h"
 

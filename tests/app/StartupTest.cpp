@@ -1,15 +1,15 @@
 // Start-up: application paths, the small start files, the operation mode and the order of steps.
-#include "app/AppPaths.h"
-#include "app/GSMode.h"
-#include "app/PathChecks.h"
 #include "app/StartFiles.h"
 #include "app/SubMain.h"
-#include "app/ViewSlots.h"
-#include "app/clsCommon.h"
-#include "app/clsLibrary.h"
+#include "base/AppPaths.h"
+#include "base/GSMode.h"
+#include "base/PathChecks.h"
+#include "base/clsCommon.h"
+#include "base/clsLibrary.h"
+#include "recording/ViewSlots.h"
 #include "support/RecordingMessageSink.h"
 
-#include "TestTables.h"
+#include "support/TestTables.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "DesktopFixture.h"
 
 #include "app/SubMain.h"
-#include "app/ViewSlots.h"
 #include "app/widgets/TrMdiForm.h"
 #include "recording/SelectionLists.h"
+#include "recording/ViewSlots.h"
 #include "support/VxfWriter.h"
 
 #include <QCoreApplication>

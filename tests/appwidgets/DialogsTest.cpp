@@ -1,10 +1,10 @@
 // The message box, the selection dialog and the group name dialog.
-#include "app/LanguageTable.h"
-#include "app/ShowMsg.h"
 #include "app/StartFiles.h"
 #include "app/widgets/dlgSelect.h"
 #include "app/widgets/frmGroupNameDialog.h"
-#include "app/widgets/frmMessageBox.h"
+#include "base/LanguageTable.h"
+#include "base/ShowMsg.h"
+#include "base/widgets/frmMessageBox.h"
 #include "recording/SelectionLists.h"
 #include "support/RecordingFixture.h"
 #include "support/RecordingMessageSink.h"

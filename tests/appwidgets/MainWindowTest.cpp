@@ -2,13 +2,13 @@
 #include "DesktopFixture.h"
 
 #include "app/ClickFile.h"
-#include "app/LanguageTable.h"
 #include "app/StartFiles.h"
-#include "app/ViewSlots.h"
 #include "app/widgets/TrMdiForm.h"
 #include "app/widgets/frmMain.h"
+#include "base/LanguageTable.h"
 #include "recording/CommandFiles.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewSlots.h"
+#include "recording/ViewState.h"
 #include "savedwork/BackupRecords.h"
 #include "trend/widgets/frmScrollTime.h"
 

@@ -3,10 +3,10 @@
 
 #include "app/SubMain.h"
 
-#include "app/AppPaths.h"
 #include "app/ClickFile.h"
 #include "app/widgets/frmMain.h"
-#include "recording/ViewTables.h"
+#include "base/AppPaths.h"
+#include "recording/ViewState.h"
 
 #include <QCoreApplication>
 #include <QFile>

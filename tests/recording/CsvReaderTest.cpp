@@ -1,6 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "support/CsvWriter.h"
 #include "support/RecordingFixture.h"
 
@@ -22,7 +22,7 @@ protected:
         return loadCsv(dir.write("data.csv", buildCsv(lines, cp932)));
     }
     FixtureDir dir;
-    const ViewTables& view = views(1);
+    const ViewState& view = views(1);
 };
 
 TEST_F(CsvReader, DateAndTimeInOneOrTwoFieldsWithMilliseconds) {

@@ -1,4 +1,4 @@
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "support/RecordingFixture.h"
 #include "support/VxfWriter.h"
 

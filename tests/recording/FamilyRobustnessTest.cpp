@@ -102,7 +102,7 @@ LoadOutcome loadDirect(const QString& path, const FamilyCase& f) {
     sel.append(path, 0, 0);
     sel.SelFileType = f.fileType;
     sel.SelInterval = 1000;
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
     copySelectionToView(view);
     LoadOptions options;
     options.gsMode = f.gsMode;
@@ -112,7 +112,7 @@ LoadOutcome loadDirect(const QString& path, const FamilyCase& f) {
 // Every load of a damaged file either succeeds or fails cleanly with an empty view.
 void expectCleanOutcome(const LoadOutcome& out, const FamilyCase& f, const char* what,
                         qint64 where) {
-    ViewTables& v = views(1);
+    ViewState& v = views(1);
     if (out.ok()) {
         EXPECT_GT(v.PointCount, 0) << f.name << " " << what << " " << where;
     } else {

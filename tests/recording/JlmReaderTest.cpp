@@ -1,6 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/FileRecognition.h"
 #include "support/JlmWriter.h"
 #include "support/RecordingFixture.h"

@@ -14,7 +14,7 @@
 inline LoadOutcome loadFiles(const QStringList& paths, bool gsMode = false,
                              LoadOptions options = {}) {
     CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(paths), gsMode);
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
     copySelectionToView(view);
     options.gsMode = gsMode;
     return LoadRecording(view, options);
@@ -29,7 +29,6 @@ inline QString cellText(int col, int row, int view = 1) {
 // Reader tests: a scratch folder, view 1, and rows placed by time.
 class RecordingTest : public ::testing::Test {
 protected:
-    void SetUp() override { FileJoinByOrder = 0; }
     FixtureDir dir;
-    const ViewTables& view = views(1);
+    const ViewState& view = views(1);
 };

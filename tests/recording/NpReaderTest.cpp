@@ -1,6 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/ColorMaps.h"
 #include "support/NpWriter.h"
 #include "support/RecordingFixture.h"

@@ -1,6 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/ColorMaps.h"
 #include "support/QdfWriter.h"
 #include "support/RecordingFixture.h"

@@ -1,4 +1,4 @@
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "recording/CommandFiles.h"
 #include "recording/DroppedFiles.h"
 #include "recording/FamilyCodes.h"
@@ -64,7 +64,7 @@ TEST_F(Selection, GsModeTakesOnlyArchivesAndP4f) {
 }
 
 TEST_F(Selection, DropOpensTheGoodFilesAndListsMessageFiles) {
-    ViewTables view;
+    ViewState view;
     const QString a = vxf("a.vxf", 100), bad = junk("bad.vxf"), b = vxf("b.vxf", 103);
     const QString msg = dir.write("ops.msg", "TM0M....");
     EXPECT_TRUE(DroppedFiles::OpenDroppedFiles({a, bad, msg, b}, view, false, sel));
@@ -74,7 +74,7 @@ TEST_F(Selection, DropOpensTheGoodFilesAndListsMessageFiles) {
 }
 
 TEST_F(Selection, DropPrefersCsvOverVxfAndTakesOneCsv) {
-    ViewTables view;
+    ViewState view;
     const QString a = vxf("a.vxf", 100), c1 = junk("one.csv"), c2 = junk("two.csv");
     EXPECT_TRUE(DroppedFiles::OpenDroppedFiles({a, c1, c2}, view, false, sel));
     EXPECT_EQ(sel.SelFileName, QVector<QString>({c1}));
@@ -82,7 +82,7 @@ TEST_F(Selection, DropPrefersCsvOverVxfAndTakesOneCsv) {
 }
 
 TEST_F(Selection, DropOfNothingUsableShows553AndAMessageFileAloneOpensNothing) {
-    ViewTables view;
+    ViewState view;
     EXPECT_FALSE(DroppedFiles::OpenDroppedFiles({junk("x.vxf")}, view, false, sel));
     ASSERT_EQ(sink.calls().size(), 1);
     EXPECT_EQ(sink.last().text, MsgText(553));
@@ -94,7 +94,7 @@ TEST_F(Selection, DropOfNothingUsableShows553AndAMessageFileAloneOpensNothing) {
 }
 
 TEST_F(Selection, DropWithoutReadableHeadersRestoresTheSelection) {
-    ViewTables view;
+    ViewState view;
     sel.append(QStringLiteral("/kept.vxf"), 1, 0);
     EXPECT_FALSE(DroppedFiles::OpenDroppedFiles({dir.write("short.vxf", QByteArray("VX2\0abc", 7))},
                                                 view, false, sel));

@@ -1,6 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/ColorMaps.h"
 #include "support/RecordingFixture.h"
 #include "support/TmWriter.h"
@@ -128,7 +128,7 @@ protected:
         return loadFiles({dir.write("run.dat", oneChannel("20240506100000", 2))});
     }
     FixtureDir dir;
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
 };
 
 TEST_F(MsgFiles, RecordsBecomeMessagesOfType7) {

@@ -1,6 +1,6 @@
 #include "LoadHelpers.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "recording/ColorMaps.h"
 #include "support/RecordingFixture.h"
 #include "support/VxfWriter.h"
@@ -24,11 +24,11 @@ VxfDescription vxf(int channels, int rows, quint32 start = kStart) {
 class VxfReader : public RecordingTest {
 protected:
     // Writes the files as f0.vxf, f1.vxf, ... and opens them as the command line does.
-    LoadOutcome load(std::initializer_list<VxfDescription> files) {
+    LoadOutcome load(std::initializer_list<VxfDescription> files, LoadOptions options = {}) {
         QStringList paths;
         for (const VxfDescription& d : files)
             paths << dir.write(QStringLiteral("f%1.vxf").arg(paths.size()), buildVxf(d));
-        return loadFiles(paths);
+        return loadFiles(paths, false, options);
     }
 };
 
@@ -153,8 +153,9 @@ TEST_F(VxfReader, FilesWithTheSameBatchTextShareColumnsAndJoinByTime) {
 }
 
 TEST_F(VxfReader, JoinByOrderAppendsBehindTheLastRow) {
-    FileJoinByOrder = 1;
-    ASSERT_TRUE(load({vxf(1, 3), vxf(1, 2, kStart + 3600)}).ok());
+    LoadOptions byOrder;
+    byOrder.FileJoinByOrder = 1;
+    ASSERT_TRUE(load({vxf(1, 3), vxf(1, 2, kStart + 3600)}, byOrder).ok());
     EXPECT_EQ(view.PointCount, 5);
     EXPECT_EQ(cellText(2, 4), QLatin1String("1.1"));
 }

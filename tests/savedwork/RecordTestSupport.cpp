@@ -1,6 +1,6 @@
 #include "RecordTestSupport.h"
 
-#include "app/ViewSlots.h"
+#include "recording/ViewSlots.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/AppPaths.h"
-#include "recording/ViewTables.h"
+#include "base/AppPaths.h"
+#include "recording/ViewState.h"
 #include "savedwork/RecordNames.h"
 #include "savedwork/SavedWorkRecords.h"
 #include "trend/TrendViewState.h"

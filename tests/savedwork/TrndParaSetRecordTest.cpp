@@ -15,7 +15,7 @@ constexpr int kLow = kEnabled + (4 + 2 + 2 + 2 + 8) * kLines;
 constexpr int kTail = kEnabled + 36 * kLines;
 
 void fillView(int view) {
-    ViewTables& v = views(view);
+    ViewState& v = views(view);
     v.PointCount = std::numeric_limits<qint32>::max();
     v.ChannelCountOrig = -32768;
     v.SampleInterval = std::numeric_limits<qint32>::min();
@@ -61,7 +61,7 @@ TEST_F(TrndParaSetRecordTest, AnchorsStandAtTheirOffsetsAndTheViewRoundTrips) {
     views(kView).clearRecording();
     trendState(kView).reset();
     ASSERT_TRUE(ReadTrndParaSet(kView));
-    const ViewTables& v = views(kView);
+    const ViewState& v = views(kView);
     EXPECT_EQ(std::tie(v.PointCount, v.ChannelCountOrig, v.SampleInterval, v.ViewStart,
                        v.ViewStartMsec, v.ViewShownPoints),
               std::make_tuple(std::numeric_limits<qint32>::max(), -32768,

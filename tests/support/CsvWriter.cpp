@@ -1,7 +1,7 @@
 #include "support/CsvWriter.h"
 
-#include "app/TextFile.h"
-#include "app/TimeBase.h"
+#include "base/TextFile.h"
+#include "base/TimeBase.h"
 
 namespace fixtures {
 

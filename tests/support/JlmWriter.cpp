@@ -1,6 +1,6 @@
 #include "support/JlmWriter.h"
 
-#include "app/TimeBase.h"
+#include "base/TimeBase.h"
 #include "support/FixtureBytes.h"
 
 namespace fixtures {

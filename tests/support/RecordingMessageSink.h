@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/ShowMsg.h"
-#include "platform/MessageSink.h"
+#include "base/MessageSink.h"
+#include "base/ShowMsg.h"
 
 #include <QList>
 #include <QString>

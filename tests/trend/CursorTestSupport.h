@@ -1,7 +1,7 @@
 #pragma once
 
 #include "TrendFixture.h"
-#include "app/clsConst.h"
+#include "base/clsConst.h"
 #include "platform/ChartGeometry.h"
 #include "trend/TrendCursors.h"
 

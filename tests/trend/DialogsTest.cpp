@@ -1,6 +1,6 @@
 #include "TrendFixture.h"
-#include "app/LanguageTable.h"
-#include "app/VbFormat.h"
+#include "base/LanguageTable.h"
+#include "base/VbFormat.h"
 #include "support/RecordingMessageSink.h"
 #include "trend/MultiScaleSet.h"
 #include "trend/TimeAxisSetting.h"

@@ -1,6 +1,6 @@
 #include "trend/PlotValue.h"
 #include "TrendFixture.h"
-#include "app/NumberText.h"
+#include "base/NumberText.h"
 #include "trend/LineSeriesSource.h"
 #include "trend/StoreColumnReader.h"
 
@@ -30,7 +30,7 @@ TEST(PlotValue, CellsBecomeNumbersOrHoles) {
                  {kNoData, H},  {kBlank, H}, {-32768, H}, {32760, 327.6}};
     std::vector<qint16> raw;
     for (const auto& c : cases) raw.push_back(c.raw);
-    ViewTables& v = makeView(1, {raw}, 2);
+    ViewState& v = makeView(1, {raw}, 2);
     trendState(1).Lines[1] = line(1);
     for (size_t i = 0; i < std::size(cases); ++i)
         EXPECT_EQ(PlotValue(1, qint32(i) + 1, 1), cases[i].value) << "raw " << cases[i].raw;
@@ -45,7 +45,7 @@ TEST(PlotValue, CellsBecomeNumbersOrHoles) {
 // The second operand: a column in error spoils the point; a constant that is not a number is
 // ignored.
 TEST(PlotValue, SecondOperand) {
-    const ViewTables& v = makeView(1, {{100, 200, 300}, {10, kBurn, 30}}, 0);
+    const ViewState& v = makeView(1, {{100, 200, 300}, {10, kBurn, 30}}, 0);
     TrendLine sum = line(1);
     sum.secondColumn = 2;
     EXPECT_EQ(PlotValue(v.Storage, sum, 1), 110);
@@ -64,7 +64,7 @@ TEST(PlotValue, SecondOperand) {
 // The bulk series gives exactly PlotValue (and ScalePercent) at every point, whatever the cell
 // format, for text cells, overlapping file segments and rows no file covered.
 TEST(PlotValue, BulkSeriesEqualsCellTexts) {
-    ViewTables& v = makeView(1, {}, 0);
+    ViewState& v = makeView(1, {}, 0);
     clsStorage& s = v.Storage;
     s.setMaxCols(8);
     s.setMaxRows(40);

@@ -1,5 +1,5 @@
 #include "CursorTestSupport.h"
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "trend/CursorReadout.h"
 #include "trend/CursorTimeSpan.h"
 

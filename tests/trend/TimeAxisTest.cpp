@@ -1,6 +1,6 @@
 #include "TrendFixture.h"
-#include "app/VbFormat.h"
-#include "app/clsCommon.h"
+#include "base/VbFormat.h"
+#include "base/clsCommon.h"
 #include "trend/TrendTimeAxis.h"
 
 #include <gtest/gtest.h>

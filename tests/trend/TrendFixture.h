@@ -2,7 +2,7 @@
 
 #include "platform/ChartTypes.h"
 #include "recording/CellFormat.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 #include "trend/TrendView.h"
 #include "trend/TrendViewState.h"
 
@@ -33,10 +33,10 @@ inline void writeRaw(clsStorage& storage, int channel, int firstRow, const std::
 
 // A view of plain channels (all of `decimals`) with the given raw columns and scales, as a
 // reader leaves it: store, counts, channel table. The trend state of the view is reset.
-inline ViewTables& makeView(int viewNumber, const Columns& channels, int decimals,
-                            const QString& low = QStringLiteral("0"),
-                            const QString& high = QStringLiteral("100")) {
-    ViewTables& v = views(viewNumber);
+inline ViewState& makeView(int viewNumber, const Columns& channels, int decimals,
+                           const QString& low = QStringLiteral("0"),
+                           const QString& high = QStringLiteral("100")) {
+    ViewState& v = views(viewNumber);
     v.clearRecording();
     trendState(viewNumber).reset();
     const int rows = channels.empty() ? 0 : int(channels[0].size());

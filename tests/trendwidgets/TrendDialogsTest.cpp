@@ -1,6 +1,6 @@
 #include "TrendWindowFixture.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "trend/widgets/MultiScaleStrip.h"
 #include "trend/widgets/frmMultiScaleSet.h"
 #include "trend/widgets/frmTimeAxisSetting.h"

@@ -1,6 +1,6 @@
 #include "app/cli/CliRecording.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "recording/CommandFiles.h"
 #include "recording/CsvLoader.h"
 #include "recording/FamilyCodes.h"
@@ -32,11 +32,11 @@ RecordingArgs splitRecordingArgs(const QStringList& args) {
     return out;
 }
 
-ViewTables* openRecording(const RecordingArgs& args) {
+ViewState* openRecording(const RecordingArgs& args) {
     QTextStream err(stderr);
     SelectionLists& sel = selection();
     sel.clear();
-    ViewTables& view = views(1);
+    ViewState& view = views(1);
     NoProgress progress;
     LoadOptions options;
     options.gsMode = args.gsMode;

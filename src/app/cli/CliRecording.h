@@ -16,7 +16,7 @@ RecordingArgs splitRecordingArgs(const QStringList& args);
 
 // Opens the files as the program's command line does (one CSV file opens as a drop opens it)
 // into view 1. On failure prints the message to stderr and returns nullptr.
-ViewTables* openRecording(const RecordingArgs& args);
+ViewState* openRecording(const RecordingArgs& args);
 
 // Text of a message number for the terminal.
 QString messageText(int number);

@@ -1,6 +1,6 @@
-#include "app/TimeBase.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
+#include "base/TimeBase.h"
 
 #include <QTextStream>
 
@@ -16,7 +16,7 @@ std::string utf8(const QString& s) {
     return s.toStdString();
 }
 
-nlohmann::json channelsJson(const ViewTables& v) {
+nlohmann::json channelsJson(const ViewState& v) {
     nlohmann::json list = nlohmann::json::array();
     const ChannelTable& t = v.Channels;
     for (int c = 1; c <= v.ChannelCount; ++c) {
@@ -32,7 +32,7 @@ nlohmann::json channelsJson(const ViewTables& v) {
     return list;
 }
 
-nlohmann::json messagesJson(const ViewTables& v) {
+nlohmann::json messagesJson(const ViewState& v) {
     nlohmann::json list = nlohmann::json::array();
     for (const ViewMessage& m : v.ViewMessages)
         list.push_back({{"time", utf8(TimeBase::isoText(m.time))},
@@ -42,7 +42,7 @@ nlohmann::json messagesJson(const ViewTables& v) {
     return list;
 }
 
-nlohmann::json cellsJson(const ViewTables& v, int firstRow, int lastRow) {
+nlohmann::json cellsJson(const ViewState& v, int firstRow, int lastRow) {
     nlohmann::json rows = nlohmann::json::array();
     QString text;
     for (int r = firstRow; r <= lastRow; ++r) {
@@ -77,7 +77,7 @@ int runDump(const QStringList& args) {
         QTextStream(stderr) << "recview dump: no file given\n";
         return 2;
     }
-    const ViewTables* view = openRecording(parsed);
+    const ViewState* view = openRecording(parsed);
     if (!view) return 1;
     lastRow = lastRow < 0 ? view->PointCount : std::min(lastRow, int(view->PointCount));
     nlohmann::json out = {{"family", view->FileType},

@@ -1,6 +1,6 @@
-#include "app/TimeBase.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
+#include "base/TimeBase.h"
 #include "recording/FileRecognition.h"
 
 #include <QTextStream>
@@ -15,7 +15,7 @@ int runInfo(const QStringList& args) {
         QTextStream(stderr) << "recview info: no file given\n";
         return 2;
     }
-    const ViewTables* view = openRecording(parsed);
+    const ViewState* view = openRecording(parsed);
     if (!view) return 1;
     QTextStream out(stdout);
     out << "family:   " << familyWord(view->FileType, view->FileName.value(0)) << " ("

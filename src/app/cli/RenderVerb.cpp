@@ -1,7 +1,7 @@
-#include "app/TimeBase.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
-#include "platform/Progress.h"
+#include "base/Progress.h"
+#include "base/TimeBase.h"
 #include "trend/TrendImage.h"
 #include "trend/TrendTimeAxis.h"
 #include "trend/TrendView.h"
@@ -57,7 +57,7 @@ bool takeRenderArgs(QStringList& args, RenderArgs& r, QString& error) {
 }
 
 // The 1-based point of a time, kept within the recording.
-bool pointOf(const QString& text, const ViewTables& v, qint32& point) {
+bool pointOf(const QString& text, const ViewState& v, qint32& point) {
     qint64 seconds;
     if (!TimeBase::parseIsoText(text, seconds)) return false;
     const qint64 index = secondsToIndex(seconds, 0, v.SampleInterval, v.ViewStart, v.ViewStartMsec);
@@ -68,7 +68,7 @@ bool pointOf(const QString& text, const ViewTables& v, qint32& point) {
 // The span of --from and --to as a zoom level; the ends default to those of the recording.
 bool applyRange(TrendView& view, const RenderArgs& r, QString& error) {
     if (r.from.isEmpty() && r.to.isEmpty()) return true;
-    const ViewTables& v = view.tables();
+    const ViewState& v = view.tables();
     qint32 first = 1, last = v.PointCount;
     if (!r.from.isEmpty() && !pointOf(r.from, v, first))
         error = QStringLiteral("bad --from time");

@@ -1,10 +1,10 @@
 #include "app/widgets/DesktopStartup.h"
 
 #include "app/ClickFile.h"
-#include "app/clsCommon.h"
 #include "app/widgets/TrMdiForm.h"
 #include "app/widgets/frmMain.h"
 #include "app/widgets/frmVersion.h"
+#include "base/clsCommon.h"
 #include "recording/CommandFiles.h"
 #include "recording/SelectionLists.h"
 

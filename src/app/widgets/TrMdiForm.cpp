@@ -1,7 +1,7 @@
 #include "app/widgets/TrMdiForm.h"
 
-#include "app/widgets/ApplyLanguageFont.h"
 #include "app/widgets/ToolIcons.h"
+#include "base/widgets/ApplyLanguageFont.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>

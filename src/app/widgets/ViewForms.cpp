@@ -1,8 +1,8 @@
 #include "app/widgets/ViewForms.h"
 
-#include "app/ViewSlots.h"
 #include "app/widgets/TrMdiForm.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewSlots.h"
+#include "recording/ViewState.h"
 #include "trend/widgets/frmScrollTime.h"
 
 #include <QLayout>
@@ -74,9 +74,4 @@ void ViewForms::closed(int n) {
     if (n < 1 || n > int(forms_.size())) return;
     forms_[size_t(n - 1)] = nullptr;
     setViewInUse(n - 1, false);
-    ViewTables& view = views(n);
-    view.clearRecording();
-    view.FileCount = 0;
-    view.FileName.clear();
-    view.MessageFiles.clear();
 }

@@ -1,12 +1,12 @@
 #include "app/widgets/dlgSelect.h"
 
-#include "app/LanguageTable.h"
-#include "app/LocaleInfo.h"
 #include "app/StartFiles.h"
-#include "app/clsCommon.h"
-#include "app/widgets/ApplyLanguageFont.h"
+#include "base/LanguageTable.h"
+#include "base/LocaleInfo.h"
+#include "base/clsCommon.h"
+#include "base/widgets/ApplyLanguageFont.h"
 #include "recording/FamilyCodes.h"
-#include "recording/ViewTables.h"
+#include "recording/ViewState.h"
 
 #include <QButtonGroup>
 #include <QDateTime>

@@ -1,10 +1,10 @@
 #include "app/widgets/frmGroupNameDialog.h"
 
-#include "app/AppPaths.h"
-#include "app/LanguageTable.h"
 #include "app/StartFiles.h"
-#include "app/ViewSlots.h"
-#include "app/widgets/ApplyLanguageFont.h"
+#include "base/AppPaths.h"
+#include "base/LanguageTable.h"
+#include "base/widgets/ApplyLanguageFont.h"
+#include "recording/ViewSlots.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>

@@ -1,11 +1,11 @@
 #include "app/widgets/frmVersion.h"
 
-#include "app/AppPaths.h"
-#include "app/GSMode.h"
-#include "app/LanguageTable.h"
-#include "app/clsCommon.h"
-#include "app/widgets/ApplyLanguageFont.h"
 #include "app/widgets/ToolIcons.h"
+#include "base/AppPaths.h"
+#include "base/GSMode.h"
+#include "base/LanguageTable.h"
+#include "base/clsCommon.h"
+#include "base/widgets/ApplyLanguageFont.h"
 
 #include <QApplication>
 #include <QDesktopServices>

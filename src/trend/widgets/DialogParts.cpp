@@ -1,6 +1,6 @@
 #include "trend/widgets/DialogParts.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>

@@ -1,6 +1,6 @@
 #include "trend/widgets/SideGridView.h"
 
-#include "app/WinColor.h"
+#include "base/WinColor.h"
 #include "trend/CursorSideGrid.h"
 
 #include <QAbstractTableModel>

@@ -1,6 +1,6 @@
 #include "trend/widgets/TrendTexts.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 
 QString TrendCaption(int message, const char* english) {
     const QString text = MsgText(message);

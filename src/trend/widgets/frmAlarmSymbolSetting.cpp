@@ -1,9 +1,9 @@
 #include "trend/widgets/frmAlarmSymbolSetting.h"
 
-#include "app/LanguageTable.h"
-#include "app/WinColor.h"
+#include "base/LanguageTable.h"
+#include "base/Progress.h"
+#include "base/WinColor.h"
 #include "platform/ChartRenderer.h"
-#include "platform/Progress.h"
 
 #include <QApplication>
 #include <QCheckBox>

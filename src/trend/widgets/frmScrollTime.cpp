@@ -1,11 +1,11 @@
 #include "trend/widgets/frmScrollTime.h"
 
-#include "app/LanguageTable.h"
-#include "app/ShowMsg.h"
-#include "app/widgets/frmProgress.h"
+#include "base/LanguageTable.h"
+#include "base/ShowMsg.h"
 #include "platform/ChartGeometry.h"
 #include "platform/widgets/ChartWidget.h"
 #include "recording/RecordingLoader.h"
+#include "recording/widgets/frmProgress.h"
 #include "savedwork/BackupRecords.h"
 #include "trend/AlarmMarks.h"
 #include "trend/HoverReadout.h"
@@ -236,7 +236,7 @@ std::vector<MultiScaleStripWidget*> frmScrollTime::strips() const {
 }
 
 bool frmScrollTime::LoadRecording() {
-    ViewTables& view = views(viewNumber_);
+    ViewState& view = views(viewNumber_);
     // The channel series read the store's cells: they go before the reader empties the store,
     // since the window may repaint while the load lets events through.
     trend_->chart().setSeriesCount(0);

@@ -1,7 +1,7 @@
 #include "trend/widgets/frmXlblSet.h"
 
-#include "app/LanguageTable.h"
-#include "app/NumberText.h"
+#include "base/LanguageTable.h"
+#include "base/NumberText.h"
 #include "trend/TrendView.h"
 #include "trend/widgets/DialogParts.h"
 #include "trend/widgets/TrendTexts.h"

@@ -1,6 +1,6 @@
 #include "trend/widgets/frmYAxesStyle.h"
 
-#include "app/LanguageTable.h"
+#include "base/LanguageTable.h"
 #include "trend/TrendView.h"
 #include "trend/widgets/DialogParts.h"
 #include "trend/widgets/TrendTexts.h"
