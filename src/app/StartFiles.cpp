@@ -4,6 +4,7 @@
 #include "base/PathChecks.h"
 #include "base/TextFile.h"
 #include "base/VbFormat.h"
+#include "recording/RecordingLimits.h"
 
 #include <QFile>
 
@@ -13,18 +14,18 @@
 
 namespace {
 
-std::array<QString, 10>& groupNames() {
-    static std::array<QString, 10> names;
+std::array<QString, MaxViews>& groupNames() {
+    static std::array<QString, MaxViews> names;
     return names;
 }
 
-std::array<int, 10>& pointsA() {
-    static std::array<int, 10> a{};
+std::array<int, MaxViews>& pointsA() {
+    static std::array<int, MaxViews> a{};
     return a;
 }
 
-std::array<int, 10>& pointsB() {
-    static std::array<int, 10> b{};
+std::array<int, MaxViews>& pointsB() {
+    static std::array<int, MaxViews> b{};
     return b;
 }
 
@@ -48,11 +49,18 @@ bool toInt32(const QString& text, int& value) {
 } // namespace
 
 QString GroupNames(int group) {
-    return group >= 1 && group <= 10 ? groupNames()[group - 1] : QString();
+    return group >= 1 && group <= MaxViews ? groupNames()[group - 1] : QString();
+}
+
+QString groupNameOrDefault(int group) {
+    const QString name = GroupNames(group);
+    return name.isEmpty() ? defaultGroupName(group) : name;
 }
 
 void setGroupName(int group, const QString& name) {
-    if (group >= 1 && group <= 10) groupNames()[group - 1] = name;
+    const QString trimmed = name.trimmed();
+    if (group >= 1 && group <= MaxViews)
+        groupNames()[group - 1] = trimmed.isEmpty() ? defaultGroupName(group) : trimmed;
 }
 
 void LoadGroupNames() {
@@ -63,29 +71,29 @@ void LoadGroupNames() {
         SaveGroupNames(true);
         return;
     }
-    for (int i = 0; i < lines.size() && i < 10; ++i) groupNames()[i] = lines[i].trimmed();
+    for (int i = 0; i < lines.size() && i < MaxViews; ++i) groupNames()[i] = lines[i].trimmed();
 }
 
 void SaveGroupNames(bool resetToDefault) {
     if (resetToDefault)
-        for (int group = 1; group <= 10; ++group) setGroupName(group, defaultGroupName(group));
+        for (int group = 1; group <= MaxViews; ++group) setGroupName(group, QString());
     const QStringList lines(groupNames().begin(), groupNames().end());
     TextFile::writeLines(workFile("GName.ini"), lines);
 }
 
 int ShowPointsA(int index) {
-    return index >= 0 && index < 10 ? pointsA()[index] : 0;
+    return index >= 0 && index < MaxViews ? pointsA()[index] : 0;
 }
 
 int ShowPointsB(int index) {
-    return index >= 0 && index < 10 ? pointsB()[index] : 0;
+    return index >= 0 && index < MaxViews ? pointsB()[index] : 0;
 }
 
 void LoadShowPoints() {
     QStringList lines;
     if (!FileExists(workFile("ShowPoints.ini"))) return;
     if (!TextFile::readLines(workFile("ShowPoints.ini"), lines)) return;
-    for (int n = 0; n < lines.size() && n < 10; ++n) {
+    for (int n = 0; n < lines.size() && n < MaxViews; ++n) {
         const QStringList fields = lines[n].split(QLatin1Char(','));
         int a = 0;
         int b = 0;

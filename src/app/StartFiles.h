@@ -8,6 +8,9 @@
 
 // Group i, 1..10 ("" outside).
 QString GroupNames(int group);
+// The name of group i, or its default (message 204 and the number) while it has none.
+QString groupNameOrDefault(int group);
+// Sets the trimmed name; an empty name sets the default.
 void setGroupName(int group, const QString& name);
 
 // Reads "GName.ini": each line trimmed, in order, lines past the tenth ignored. A missing or

@@ -13,9 +13,10 @@ GSModeState& GSMode() {
 int selectOperationMode() {
     GSModeState& gs = GSMode();
     gs.GSModePath = AppPaths(0);
-    clsCommon::shared().setOperationMode(0);
-    if (FileExists(AppPaths(0) + gs.GSModeFileName)) clsCommon::shared().setOperationMode(34);
-    if (clsCommon::shared().OperationMode() == 34) {
+    clsCommon::shared().setOperationMode(clsCommon::kStandardMode);
+    if (FileExists(AppPaths(0) + gs.GSModeFileName))
+        clsCommon::shared().setOperationMode(clsCommon::kGsMode);
+    if (clsCommon::shared().isGsMode()) {
         gs.GSTitleSuffix = QStringLiteral(" MOVRA for GS");
         QString title;
         bool found = false;
@@ -29,7 +30,6 @@ int selectOperationMode() {
 
 QString mainWindowTitle(const QString& normalTitle) {
     const GSModeState& gs = GSMode();
-    if (clsCommon::shared().OperationMode() == 34 && !gs.GSMainTitle.isEmpty())
-        return gs.GSMainTitle;
+    if (clsCommon::shared().isGsMode() && !gs.GSMainTitle.isEmpty()) return gs.GSMainTitle;
     return normalTitle;
 }

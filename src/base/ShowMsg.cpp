@@ -69,15 +69,15 @@ int ShowMsgFlags(int kind) {
 int ShowMsg(int kind, const QString& text, const QString& title) {
     QString body = text;
     if (body.isEmpty()) {
-        if (kind == 2)
+        if (kind == kMsgWarning)
             body = MsgText(561);
-        else if (kind == 4)
+        else if (kind == kMsgInformation)
             body = MsgText(563);
-        else if (kind == 7)
+        else if (kind == kMsgDone)
             body = MsgText(360);
     }
-    if (kind == 6) body += QLatin1Char('\n') + MsgText(577);
+    if (kind == kMsgQuestionNote) body += QLatin1Char('\n') + MsgText(577);
     QString caption = title;
-    if (caption.isEmpty()) caption = kind == 3 ? MsgText(269) : MsgText(268);
+    if (caption.isEmpty()) caption = kind == kMsgCritical ? MsgText(269) : MsgText(268);
     return MsgBox(body, ShowMsgFlags(kind), caption);
 }

@@ -30,6 +30,17 @@ enum MsgFlags : int {
     kFlagInformation = 64,
 };
 
+// The kinds of ShowMsg.
+enum MsgKind : int {
+    kMsgQuestion = 1,     // Yes/No question
+    kMsgWarning = 2,      // OK, exclamation; default text message 561
+    kMsgCritical = 3,     // OK, critical; title message 269
+    kMsgInformation = 4,  // OK, information; default text message 563
+    kMsgOkCancel = 5,     // OK/Cancel question
+    kMsgQuestionNote = 6, // Yes/No question, message 577 on a line of its own appended
+    kMsgDone = 7,         // OK, information; default text message 360
+};
+
 // The one message box of the system. Kinds: 1 Yes/No question, 2 OK exclamation (default text
 // message 561), 3 OK critical (title message 269), 4 OK information (default text 563),
 // 5 OK/Cancel question, 6 Yes/No question with a line break and message 577 always appended,

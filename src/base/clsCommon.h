@@ -17,9 +17,13 @@ public:
     // The instance of the process, made over clsConst::shared() on first use.
     static clsCommon& shared();
 
-    // 0 standard, 34 GS mode, 4 ZUW edition.
+    // OperationMode: 0 standard, 34 GS mode, 4 ZUW edition.
+    static constexpr int kStandardMode = 0;
+    static constexpr int kGsMode = 34;
+    static constexpr int kZuwMode = 4;
     int OperationMode() const { return operationMode_; }
     void setOperationMode(int mode) { operationMode_ = mode; }
+    bool isGsMode() const { return operationMode_ == kGsMode; }
 
     // Position 1..5: "h:nn", "hh:nn", "h:n:s", "h:nn:ss", "hh:nn:ss"; "" outside.
     QString GetTimeFormat(int style) const;
@@ -32,7 +36,7 @@ public:
     QString GetFormattedTime(int style, int hour, int minute, int second) const;
     QString GetFormattedLongDate() const { return QString(); }
     // False where no help is offered: the Chinese table in GS mode.
-    bool helpAvailable(int language) const { return !(language == 4 && operationMode_ == 34); }
+    bool helpAvailable(int language) const { return !(language == 4 && isGsMode()); }
 
     // Whether two time stamps (seconds since 2000 and their milliseconds) stand in the same
     // phase of a label interval in milliseconds. An interval below 1 sets *error to

@@ -1,43 +1,49 @@
 #include "recording/CommandFiles.h"
 
-#include "recording/FamilyCodes.h"
+#include "recording/Families.h"
 #include "recording/FileRecognition.h"
 
 #include <algorithm>
 
 namespace {
 
-// Which earlier kinds refuse a token of this type, the family whose magic it must pass, and the
-// kind it leaves behind.
+// The kind of list a token of a family leaves behind and the earlier kinds that refuse it. A
+// token of any family without a rule of its own is tried as TM.
 struct TokenRule {
-    const char* type; // nullptr: any other type
     int family;
     int newKind;
     int refusedBy[4];
 };
 
 const TokenRule kRules[] = {
-    {"VXF", Family::VXF, 1, {0, 2, 3, 4}},
-    {"QDF", Family::QDF, 3, {0, 1, 2, 4}},
-    {"N5F", Family::N5F, 4, {0, 1, 2, 3}},
-    {"JLM", Family::JLM, 6, {0, 2, 3, 4}},
-    {nullptr, Family::TM, 2, {0, 1, 3, 4}},
+    {Family::VXF, 1, {0, 2, 3, 4}}, {Family::QDF, 3, {0, 1, 2, 4}}, {Family::N5F, 4, {0, 1, 2, 3}},
+    {Family::JLM, 6, {0, 2, 3, 4}}, {Family::TM, 2, {0, 1, 3, 4}},
 };
-const TokenRule kGsP4f{"P4F", Family::P4F, 4, {0, 1, 2, 3}};
+const TokenRule kGsP4f{Family::P4F, 4, {0, 1, 2, 3}};
 
-const TokenRule* ruleFor(const QString& type, bool gsMode) {
-    if (gsMode) return type == QLatin1String("P4F") ? &kGsP4f : nullptr;
+// The family a token names by its last three characters; TM when none does.
+int familyOfToken(const QString& token) {
+    const FamilyInfo* family = Families::byExtension(QLatin1Char('.') + token.right(3));
+    return family ? family->code : Family::TM;
+}
+
+const TokenRule* ruleFor(int code, bool gsMode) {
+    if (gsMode) return code == Family::P4F ? &kGsP4f : nullptr;
     for (const TokenRule& r : kRules)
-        if (!r.type || type == QLatin1String(r.type)) return &r;
-    return nullptr;
+        if (r.family == code) return &r;
+    return &kRules[std::size(kRules) - 1];
 }
 
 int selFileTypeOfKind(int kind) {
     switch (kind) {
-    case 2: return Family::TM;
-    case 3: return Family::QDF;
-    case 4: return Family::N5F;
-    default: return Family::VXF; // VXF and JLM
+    case 2:
+        return Family::TM;
+    case 3:
+        return Family::QDF;
+    case 4:
+        return Family::N5F;
+    default:
+        return Family::VXF; // VXF and JLM
     }
 }
 
@@ -76,14 +82,15 @@ void ParseCommandFiles(const QString& commandLine, bool gsMode, SelectionLists& 
     int kind = -1;
     QStringList taken;
     for (const QString& token : list) {
-        const QString type = token.right(3).toUpper();
-        if (type == QLatin1String("VXB")) {
+        const int family = familyOfToken(token);
+        if (family == Family::VXB) {
             taken = {token};
             kind = 0;
             break;
         }
-        const TokenRule* rule = ruleFor(type, gsMode);
-        if (!rule || std::ranges::find(rule->refusedBy, kind) != std::end(rule->refusedBy)) continue;
+        const TokenRule* rule = ruleFor(family, gsMode);
+        if (!rule || std::ranges::find(rule->refusedBy, kind) != std::end(rule->refusedBy))
+            continue;
         if (!FileRecognition::CheckMagic(token, rule->family)) continue;
         taken << token;
         kind = rule->newKind;
@@ -99,8 +106,10 @@ void ParseCommandFiles(const QString& commandLine, bool gsMode, SelectionLists& 
         const bool ok = kind == 6 ? FileRecognition::ScanJlmHeader(path, info)
                                   : FileRecognition::ScanFileHeader(path, info, gsMode);
         if (!ok) continue;
-        if (sel.SelFileCount == 0) sel.SelInterval = info.interval;
-        else if (info.interval != sel.SelInterval) continue;
+        if (sel.SelFileCount == 0)
+            sel.SelInterval = info.interval;
+        else if (info.interval != sel.SelInterval)
+            continue;
         sel.append(path, info.start, info.startMsec);
     }
     sel.SelFileType = selFileTypeOfKind(kind);

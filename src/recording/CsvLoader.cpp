@@ -89,7 +89,7 @@ LoadOutcome LoadFileDataCsv(ViewState& view, const LoadOptions& options) {
         view.SampleInterval = interval;
         tooWide = csv.GetChCount() > MaxChannels;
         const int channels = std::min(csv.GetChCount(), MaxChannels);
-        view.Storage.Action(28);
+        view.Storage.Initialize();
         view.Storage.setMaxRows(csv.GetDataCount());
         view.Storage.setMaxCols(2 * channels);
         fillChannels(view, csv, channels);

@@ -2,7 +2,7 @@
 
 #include "base/LanguageTable.h"
 #include "base/ShowMsg.h"
-#include "recording/FamilyCodes.h"
+#include "recording/Families.h"
 #include "recording/FileRecognition.h"
 
 #include <QMap>
@@ -11,26 +11,13 @@ namespace {
 
 using FileRecognition::CheckMagic;
 
-// Family of a dropped file by its extension; -1 when it is left out.
+// Family of a dropped file by its extension (a file of no known extension may be TM); -1 when
+// it is left out. In GS mode only the families GS mode offers are taken.
 int classify(const QString& path, bool gsMode) {
-    const QString ext = FileRecognition::extensionOf(path);
-    if (ext == QLatin1String(".VXB")) return Family::VXB;
-    if (gsMode)
-        return ext == QLatin1String(".P4F") && CheckMagic(path, Family::P4F) ? Family::P4F : -1;
-    if (ext == QLatin1String(".CSV")) return Family::CSV;
-    if (ext == QLatin1String(".JLM")) return Family::JLM;
-    struct ByExt {
-        const char* ext;
-        int family;
-    };
-    static const ByExt kTested[] = {{".VXF", Family::VXF},
-                                    {".QDF", Family::QDF},
-                                    {".N5F", Family::N5F},
-                                    {".P4F", Family::P4F},
-                                    {".MSG", Family::MSG}};
-    for (const ByExt& e : kTested)
-        if (ext == QLatin1String(e.ext)) return CheckMagic(path, e.family) ? e.family : -1;
-    return CheckMagic(path, Family::TM) ? Family::TM : -1;
+    const FamilyInfo* family = Families::byExtension(FileRecognition::extensionOf(path));
+    if (!family) family = Families::byCode(Family::TM);
+    if (gsMode && !family->offeredIn(true)) return -1;
+    return CheckMagic(path, family->code) ? family->code : -1;
 }
 
 } // namespace
@@ -50,17 +37,17 @@ bool OpenDroppedFiles(const QStringList& files, ViewState& view, bool gsMode, Se
             byFamily[family].append(path);
         }
     }
-    static const int kPriority[] = {Family::VXB, Family::CSV, Family::VXF, Family::TM,
-                                    Family::QDF, Family::N5F, Family::P4F, Family::JLM};
     int chosen = -1;
-    for (int family : kPriority) {
-        if (byFamily.contains(family)) {
-            chosen = family;
-            break;
+    int best = 0;
+    for (const FamilyInfo& f : Families::all()) {
+        if (f.dropPriority > 0 && byFamily.contains(f.code) &&
+            (chosen < 0 || f.dropPriority < best)) {
+            chosen = f.code;
+            best = f.dropPriority;
         }
     }
     if (chosen < 0) {
-        if (!messageFiles) ShowMsg(2, MsgText(553), MsgText(217));
+        if (!messageFiles) ShowMsg(kMsgWarning, MsgText(553), MsgText(217));
         return false;
     }
     sel.clear();
@@ -79,7 +66,7 @@ bool OpenDroppedFiles(const QStringList& files, ViewState& view, bool gsMode, Se
     }
     if (sel.SelFileCount == 0) {
         sel = saved;
-        ShowMsg(2, MsgText(561));
+        ShowMsg(kMsgWarning, MsgText(561));
         return false;
     }
     return true;

@@ -56,7 +56,7 @@ private:
 };
 
 void JlmReader::setUpView(const FileBytes& b, const JlmHead& h) {
-    view_.Storage.Action(28);
+    view_.Storage.Initialize();
     view_.ViewStart = h.keyTime(b, 0);
     view_.ViewStartMsec = 0;
     // With a single data row there is no second key: the interval stays 0.

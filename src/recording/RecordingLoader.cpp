@@ -1,13 +1,9 @@
 #include "recording/RecordingLoader.h"
 
 #include "base/LanguageTable.h"
-
-#include "recording/CsvLoader.h"
-#include "recording/FamilyCodes.h"
+#include "recording/Families.h"
 #include "recording/FamilyHeads.h"
-#include "recording/FileRecognition.h"
 #include "recording/FormatReader.h"
-#include "recording/JlmLoader.h"
 #include "recording/MsgFiles.h"
 #include "recording/ReaderFrame.h"
 #include "recording/RowPlacement.h"
@@ -42,7 +38,7 @@ public:
 };
 
 void CoreReader::setUpView(const FormatReader& reader, int format) {
-    view_.Storage.Action(28);
+    view_.Storage.Initialize();
     view_.ViewStart = reader.startTime();
     const bool noMsec = format == Format::QDF || format == Format::TM6 || format == Format::TM12;
     view_.ViewStartMsec = noMsec ? 0 : reader.startMsec();
@@ -135,11 +131,12 @@ void finishLoad(ViewState& view, bool firstIsVxf) {
 LoadOutcome LoadRecording(ViewState& view, const LoadOptions& options) {
     const LoadOutcome notHandled{LoadOutcome::Status::NotHandled, 0, {}};
     if (view.FileCount < 1 || view.FileName.isEmpty()) return notHandled;
-    const QString ext = FileRecognition::extensionOf(view.FileName.first());
-    if (ext == QLatin1String(".VXB")) return notHandled;
-    if (view.FileType == Family::CSV) return LoadFileDataCsv(view, options);
-    if (ext == QLatin1String(".JLM")) return LoadJlm(view, options);
+    const FamilyInfo* family = Families::forLoad(view.FileType, view.FileName.first());
+    if (!family || !family->load) return notHandled;
+    return family->load(view, options);
+}
 
+LoadOutcome LoadCoreFiles(ViewState& view, const LoadOptions& options) {
     const ReaderFrame frame(view, options);
     frame.begin();
     CoreReader reader(view, options);

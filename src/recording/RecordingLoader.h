@@ -33,6 +33,8 @@ void copySelectionToView(ViewState& view);
 // Reads the view's files into its store: the core reader with its file loop, joining by batch
 // text and by time or order. On any failure the view is left empty.
 LoadOutcome LoadRecording(ViewState& view, const LoadOptions& options);
+// The core reader of the header-based families (VXF, QDF, TM, N5F, P4F).
+LoadOutcome LoadCoreFiles(ViewState& view, const LoadOptions& options);
 
 // The end of every load: row counts, shown points and channel counts from the store.
 void finishLoad(ViewState& view, bool firstIsVxf);

@@ -26,7 +26,7 @@ bool scan(const QString& path, int family, bool gsMode, HeadInfo& info) {
 } // namespace
 
 int SelectionChooser::refuse(int message) {
-    ShowMsg(2, MsgText(message), MsgText(217));
+    ShowMsg(kMsgWarning, MsgText(message), MsgText(217));
     return message;
 }
 
@@ -93,7 +93,7 @@ bool SelectionChooser::registerSelection(const QString& directory, SelectionList
     for (const Entry& e : chosen_)
         if (e.family != Family::MSG) files << e;
     if (files.isEmpty()) {
-        ShowMsg(2);
+        ShowMsg(kMsgWarning);
         return false;
     }
     directory_ = directory.endsWith(QLatin1Char('/')) ? directory : directory + QLatin1Char('/');
@@ -116,7 +116,7 @@ bool SelectionChooser::registerSelection(const QString& directory, SelectionList
     if (size > limit) {
         const QString text =
             MsgText(230) + QString::number(size) + QStringLiteral(" : ") + QString::number(limit);
-        if (ShowMsg(6, text) == kNo) {
+        if (ShowMsg(kMsgQuestionNote, text) == kNo) {
             sel.clear();
             return false;
         }

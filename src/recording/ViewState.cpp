@@ -6,7 +6,7 @@
 #include <memory>
 
 void ViewState::clearRecording() {
-    Storage.Action(28);
+    Storage.Initialize();
     DataProperty = clsDataFileProperty();
     FileMagic.clear();
     ColorMapMagic.clear();

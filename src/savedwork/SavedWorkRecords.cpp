@@ -183,7 +183,7 @@ bool WriteSaveParaData(int viewNumber) {
     }
     record->ScrollBars = t.ScrollBars;
     record->AxisChannel = t.AxisChannel;
-    record->ScaleType = t.ScaleType;
+    record->ScaleType = qint16(t.ScaleType);
     record->ScrollScale = t.ScrollScale;
     return writeRecord(RecordNames::SaveParaData, *record);
 }
@@ -207,7 +207,7 @@ bool ReadSaveParaData(int viewNumber) {
     }
     t.ScrollBars = record->ScrollBars;
     t.AxisChannel = record->AxisChannel;
-    t.ScaleType = record->ScaleType;
+    t.ScaleType = ScaleType(record->ScaleType);
     t.ScrollScale = record->ScrollScale;
     return true;
 }

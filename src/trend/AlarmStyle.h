@@ -34,7 +34,12 @@ struct AlarmStyle {
     qint16 Size(int slot, int channel) const { return size[idx(slot)][idx(channel)]; }
     void setSymbol(int slot, int channel, qint16 v) { symbol[idx(slot)][idx(channel)] = v; }
     void setColor(int slot, int channel, quint32 v) { color[idx(slot)][idx(channel)] = v; }
-    void setSize(int slot, int channel, qint16 v) { size[idx(slot)][idx(channel)] = v; }
+    // A symbol size the user types is held to 1..99.
+    void setSize(int slot, int channel, int v) {
+        size[idx(slot)][idx(channel)] = qint16(qBound(kMinSize, v, kMaxSize));
+    }
+    static constexpr int kMinSize = 1;
+    static constexpr int kMaxSize = 99;
 
     // The look of a point in alarm at this slot, as the chart draws it.
     PointStyle pointStyle(int slot, int channel) const;

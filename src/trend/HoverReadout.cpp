@@ -66,7 +66,8 @@ std::optional<HoverText> at(TrendView& view, const ChartGeometry& geometry, cons
     if (yAxis.isReversed()) y = yAxis.max() - y + yAxis.min();
     const TrendViewState& st = view.state();
     const int bound = st.AxisChannel[0];
-    if (st.ScaleType != 0 && st.ScalePercentMode && bound >= 1 && bound < kLineCount) {
+    if (st.ScaleType != ScaleType::Plain && st.ScalePercentMode && bound >= 1 &&
+        bound < kLineCount) {
         const TrendLine& line = st.Lines[size_t(bound)];
         y = TrendValues::percentToEngineering(y, TrendValues::scaleNumber(line.scaleLow),
                                               TrendValues::scaleNumber(line.scaleHigh));

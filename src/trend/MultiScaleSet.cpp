@@ -49,11 +49,11 @@ bool MultiScaleSet::acceptsCell(const QString& text, int decimals) {
 
 int MultiScaleSet::ok() {
     if (std::none_of(rows.begin(), rows.end(), [](const Row& r) { return r.shown; })) {
-        ShowMsg(4, MsgText(582));
+        ShowMsg(kMsgInformation, MsgText(582));
         return 582;
     }
     TrendViewState& st = v_.state();
-    st.ScaleType = 2;
+    st.ScaleType = ScaleType::MultiScale;
     st.MultiScaleFlag = Check1 ? 1 : 0;
     st.MultiScaleShown.fill(false);
     for (size_t r = 0; r < rows.size(); ++r) {

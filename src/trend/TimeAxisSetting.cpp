@@ -10,7 +10,7 @@ namespace {
 constexpr qint64 kUnitSeconds[] = {1, 60, 3600, 86400}; // "s", "n", "h", "d"
 
 int refuse(int message) {
-    ShowMsg(2, MsgText(message));
+    ShowMsg(kMsgWarning, MsgText(message));
     return message;
 }
 

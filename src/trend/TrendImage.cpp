@@ -15,7 +15,7 @@ namespace {
 // The side strips of ScaleType 2 left of the chart area: tag and unit on top, then the ticks
 // and numbers of the slice of each channel's scale on show.
 void paintStrips(TrendView& view, QPainter& painter, const QSizeF& size) {
-    if (view.state().ScaleType != 2) return;
+    if (view.state().ScaleType != ScaleType::MultiScale) return;
     const ChartGeometry geometry(view.chart(), size, painter.device());
     const QRectF plot = geometry.plotArea();
     view.scales().setPlotHeight(plot.height());

@@ -112,7 +112,7 @@ void TrendPlot::finishFill() {
     TrendViewState& st = v_.state();
     setChannelStyles();
     v_.scales().Y_AxisSet(false, st.AxisChannel[0], 1);
-    if (st.ScaleType != 2) v_.scales().Y_AxisSet(false, st.AxisChannel[1], 2);
+    if (st.ScaleType != ScaleType::MultiScale) v_.scales().Y_AxisSet(false, st.AxisChannel[1], 2);
     v_.window().SelectCaption = QStringLiteral("TAG");
     MakerLineSet2();
     TrendView::call(v_.window().formResize);

@@ -61,7 +61,7 @@ void TrendScaleAxes::Y_AxisSet(bool keepFormat, int channel, int axis) {
     }
     if (channel <= 0 || channel >= kLineCount) return;
     percentLabels(a, channel);
-    if (st.ScaleType != 2) {
+    if (st.ScaleType != ScaleType::MultiScale) {
         a.setTitle(axisTitle(channel));
     } else if (!a.title().trimmed().isEmpty()) {
         a.setTitle(QStringLiteral(" "));
@@ -92,7 +92,9 @@ void TrendScaleAxes::labelPass(ChartAxis& axis, int channel, double percentStep,
     const double minValue =
         TrendValues::roundTrip(TrendValues::percentToEngineering(shownMin, low, high));
     double t = low < minValue ? minValue : low;
-    const QColor color = st.ScaleType == 2 ? WinColor::toQColor(st.MultiScaleLabelColor) : QColor();
+    const QColor color = st.ScaleType == ScaleType::MultiScale
+                             ? WinColor::toQColor(st.MultiScaleLabelColor)
+                             : QColor();
     for (int n = 0; t <= high && n < kMaxSteps; ++n, t += step) {
         const double p = TrendValues::percentValue(t, low, high);
         if (p == kHole || p < shownMin || p > shownMax) continue;
@@ -115,9 +117,9 @@ void TrendScaleAxes::ScaleTypeInit() {
     strips_.clear();
     chart.axisY().setMinAuto(true);
     chart.axisY().setMaxAuto(true);
-    const bool strips = st.ScaleType == 2;
+    const bool strips = st.ScaleType == ScaleType::MultiScale;
     for (int button : {12, 11, 17}) w.Toolbar2Enabled[size_t(button)] = !strips;
-    if (st.ScaleType == 1) {
+    if (st.ScaleType == ScaleType::Bound) {
         chart.axisY().setShown(true);
         chart.axisY2().setShown(true);
         chart.setChartAreaMargins(QMargins());

@@ -70,7 +70,7 @@ bool TrendView::afterLoad(Progress* progress) {
     if (!st.SavedMultiScale && !savedTable) {
         st.ScalePercentMode = false;
     } else {
-        st.ScaleType = savedTable ? 2 : 1;
+        st.ScaleType = savedTable ? ScaleType::MultiScale : ScaleType::Bound;
         if (savedTable) multiScaleToChannels(st, t.Channels);
         scales_.ScaleTypeInit();
         scales_.MultiScaleDisp(true);

@@ -21,6 +21,13 @@ struct TrendLine {
     bool operator==(const TrendLine&) const = default;
 };
 
+// How the Y axes of a view are scaled.
+enum class ScaleType : qint16 {
+    Plain = 0,      // one Y axis
+    Bound = 1,      // Y and Y2 bound to channels
+    MultiScale = 2, // the scale strips beside the chart
+};
+
 constexpr int kLineCount = MaxChannels + 1; // entries 0..372
 constexpr int kZoomLevels = 101;            // levels 0..100
 
@@ -42,7 +49,7 @@ struct TrendViewState {
     // Module arrays of the view
     qint16 ScrollScale = 0;
     bool ScalePercentMode = false;
-    qint16 ScaleType = 0;                // 0 plain, 1 Y/Y2 bound to channels, 2 multi-scale
+    ::ScaleType ScaleType = ::ScaleType::Plain;
     std::array<qint16, 2> AxisChannel{}; // channel on Y and on Y2
     std::array<qint32, 2> CursorPoint{}; // point under cursor A and B, 1-based, 0 = none
     qint16 BarPlacement = 0;

@@ -104,7 +104,7 @@ void TrendZoom::scroll(int value) {
     SetDataRange(first, last);
     chart.setIsBatched(false);
     TrendView::call(v_.window().sidePanels);
-    if (st.ScaleType == 2) v_.scales().MultiScaleDispResize();
+    if (st.ScaleType == ScaleType::MultiScale) v_.scales().MultiScaleDispResize();
 }
 
 void TrendZoom::SetZoom(int level) {
@@ -116,13 +116,13 @@ void TrendZoom::SetZoom(int level) {
     SetDataRange(st.ZoomX[size_t(level)][1], st.ZoomX[size_t(level)][2]);
     v_.scales().setYRange(st.ZoomY[size_t(level)][1], st.ZoomY[size_t(level)][2]);
     v_.scales().Y_AxisSet(true, st.AxisChannel[0], 1);
-    if (st.ScaleType != 2) v_.scales().Y_AxisSet(true, st.AxisChannel[1], 2);
+    if (st.ScaleType != ScaleType::MultiScale) v_.scales().Y_AxisSet(true, st.AxisChannel[1], 2);
     st.ZoomLevel = qint16(level);
     w.Toolbar2Enabled[1] = w.Toolbar2Enabled[2] = level != 0;
     const bool sameX = st.ZoomX[size_t(level)] == st.ZoomX[0];
     w.hsbTrendGraph.Enabled = level != 0 && w.hsbTrendGraph.Min != w.hsbTrendGraph.Max && !sameX;
     if (level == 0) v_.scales().setYRange(st.ZoomY[0][1], st.ZoomY[0][2]);
-    if (st.ScaleType == 2) {
+    if (st.ScaleType == ScaleType::MultiScale) {
         chart.axisY2().setLabelsShown(false);
         v_.scales().MultiScaleDispResize();
     }
@@ -134,7 +134,7 @@ bool TrendZoom::canStartBand(bool yBand) {
     TrendViewState& st = v_.state();
     if (!st.MouseArmed || st.CursorAOn || st.CursorBOn) return false;
     if (v_.chart().chartType() == Chart::kTypePolar) return false;
-    if (yBand && st.ScaleType == 2) return false;
+    if (yBand && st.ScaleType == ScaleType::MultiScale) return false;
     if (st.ZoomLevel + 1 == kTopLevel) {
         TrendView::call(v_.window().beep);
         st.ZoomPending = true;

@@ -55,13 +55,24 @@ TEST(frmMessageBox, ShowMsgGoesThroughTheBoxAndReturnsThePressedButton) {
     MessageBoxSink sink;
     setMessageSink(&sink);
     QString shownText;
-    QTimer::singleShot(50, [&] {
+    // Waits for the box; when none comes, fails and closes every window so the test ends.
+    QTimer poll;
+    int tries = 0;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
         QWidget* box = QApplication::activeModalWidget();
-        ASSERT_NE(box, nullptr);
-        shownText = box->findChild<QLabel*>(QStringLiteral("lblMessage"))->text();
-        box->findChild<QPushButton*>(QStringLiteral("btn7"))->click();
+        auto* button = box ? box->findChild<QPushButton*>(QStringLiteral("btn7")) : nullptr;
+        if (button) {
+            poll.stop();
+            shownText = box->findChild<QLabel*>(QStringLiteral("lblMessage"))->text();
+            button->click();
+        } else if (++tries > 250) {
+            poll.stop();
+            ADD_FAILURE() << "no message box came up";
+            QApplication::closeAllWindows();
+        }
     });
-    EXPECT_EQ(ShowMsg(6, QStringLiteral("Go on?")), kNo);
+    poll.start(20);
+    EXPECT_EQ(ShowMsg(kMsgQuestionNote, QStringLiteral("Go on?")), kNo);
     setMessageSink(nullptr);
     EXPECT_EQ(shownText, QStringLiteral("Go on?\n") + MsgText(577));
 }

@@ -27,7 +27,7 @@ TEST_F(SavedTrendSettings, SavedScaleTableRulesTheNextLoad) {
         TrendView view(4);
         ASSERT_TRUE(view.afterLoad());
     }
-    EXPECT_EQ(st.ScaleType, 2);
+    EXPECT_EQ(st.ScaleType, ScaleType::MultiScale);
     EXPECT_TRUE(st.ScalePercentMode);
     EXPECT_EQ(views(4).Channels.ChScaleLow[1], QLatin1String("-50"));
     EXPECT_EQ(views(4).Channels.ChScaleHigh[2], QLatin1String("10"));

@@ -19,7 +19,7 @@ void fillZoom(TrendViewState& t) {
     t.ScrollBars[0] = {0, 32767, 123, 1, 100};
     t.ScrollBars[3] = {-32768, 0, -5, 2, 20};
     t.AxisChannel = {372, 2};
-    t.ScaleType = 2;
+    t.ScaleType = ScaleType::MultiScale;
     t.ScrollScale = 32767;
 }
 

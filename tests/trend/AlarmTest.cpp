@@ -116,3 +116,15 @@ TEST(AlarmSymbolSettings, PreviewCancelAndOK) {
         EXPECT_EQ(v.styles().at(0).color, QColor(0, 0, 255));
     }
 }
+
+TEST(AlarmStyle, TypedSymbolSizeIsHeldToItsRange) {
+    AlarmStyle style;
+    const struct {
+        int typed;
+        qint16 kept;
+    } cases[] = {{0, 1}, {-5, 1}, {1, 1}, {42, 42}, {99, 99}, {100, 99}, {70000, 99}};
+    for (const auto& c : cases) {
+        style.setSize(2, 7, c.typed);
+        EXPECT_EQ(style.Size(2, 7), c.kept) << c.typed;
+    }
+}

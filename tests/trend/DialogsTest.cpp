@@ -121,14 +121,14 @@ TEST(MultiScaleSet, RowsCellsAndOk) {
     EXPECT_TRUE(dialog.rows[0].low.isEmpty()) << "an empty table row shows no number";
     EXPECT_EQ(dialog.ok(), 582);
     EXPECT_EQ(d.sink.last().text, MsgText(582));
-    EXPECT_EQ(d.view.state().ScaleType, 0);
+    EXPECT_EQ(d.view.state().ScaleType, ScaleType::Plain);
 
     dialog.rows[1].shown = true;
     dialog.rows[1].low = QStringLiteral("-5");
     dialog.rows[1].high = QStringLiteral("5");
     dialog.Check1 = true;
     EXPECT_EQ(dialog.ok(), 0);
-    EXPECT_EQ(d.view.state().ScaleType, 2);
+    EXPECT_EQ(d.view.state().ScaleType, ScaleType::MultiScale);
     ASSERT_EQ(d.view.scales().strips().size(), 1u);
     EXPECT_EQ(d.view.scales().strips()[0].low, -5);
 }

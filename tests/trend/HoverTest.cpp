@@ -58,7 +58,7 @@ TEST(HoverReadout, AxisKindsAndNothingToShow) {
     chart.setChartType(Chart::kTypePlot);
 
     TrendViewState& st = v.view.state();
-    st.ScaleType = 1;
+    st.ScaleType = ScaleType::Bound;
     st.ScalePercentMode = true;
     st.AxisChannel[0] = 2;
     st.Lines[2].scaleLow = QStringLiteral("-100");

@@ -72,7 +72,7 @@ TEST(YAxisSet, GridMarksAndDegenerateSteps) {
 TEST(MultiScale, StripsTakeFirstFourAndFollowZoom) {
     PercentView p(6);
     TrendViewState& st = p.view.state();
-    st.ScaleType = 2;
+    st.ScaleType = ScaleType::MultiScale;
     p.view.scales().ScaleTypeInit();
     ASSERT_EQ(p.view.scales().strips().size(), 4u);
     EXPECT_EQ(p.view.scales().strips()[3].row, 4);

@@ -33,7 +33,7 @@ bool loadInto(TrendView& trend, int viewNumber, FixtureDir& dir, int channels) {
 // What a view carries from one load to the next if its state is not reset.
 void dirty(int viewNumber) {
     TrendViewState& st = trendState(viewNumber);
-    st.ScaleType = 2;
+    st.ScaleType = ScaleType::MultiScale;
     st.ScalePercentMode = true;
     st.MultiScaleShown.fill(true);
     st.TimeLabelInterval = {600, 60};

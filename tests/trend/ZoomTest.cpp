@@ -84,7 +84,7 @@ TEST(TrendZoom, StackLimitsAndDrops) {
     EXPECT_FALSE(st.ZoomPending);
 
     // No band without the mouse, and no Y band with the strips.
-    st.ScaleType = 2;
+    st.ScaleType = ScaleType::MultiScale;
     EXPECT_FALSE(v.zoom().canStartBand(true));
     st.MouseArmed = false;
     EXPECT_FALSE(v.zoom().canStartBand(false));

@@ -167,13 +167,13 @@ TEST(frmMultiScaleSet, RowsStripsAndRefusal) {
     EXPECT_NE(dialog.result(), QDialog::Accepted);
     ASSERT_EQ(w.sink.calls().size(), 1);
     EXPECT_EQ(w.sink.last().text, MsgText(582));
-    EXPECT_NE(w.trend().state().ScaleType, 2);
+    EXPECT_NE(w.trend().state().ScaleType, ScaleType::MultiScale);
 
     grid->item(1, frmMultiScaleSet::kShown)->setCheckState(Qt::Checked);
     grid->item(2, frmMultiScaleSet::kShown)->setCheckState(Qt::Checked);
     dialog.btnOK_Click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(w.trend().state().ScaleType, 2);
+    EXPECT_EQ(w.trend().state().ScaleType, ScaleType::MultiScale);
     const auto strips = w.window->strips();
     ASSERT_EQ(strips.size(), 2u);
     EXPECT_EQ(strips[0]->strip().tag, QStringLiteral("T2"));

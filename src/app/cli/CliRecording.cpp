@@ -3,7 +3,7 @@
 #include "base/LanguageTable.h"
 #include "recording/CommandFiles.h"
 #include "recording/CsvLoader.h"
-#include "recording/FamilyCodes.h"
+#include "recording/Families.h"
 #include "recording/FileRecognition.h"
 #include "recording/SelectionLists.h"
 
@@ -43,8 +43,9 @@ ViewState* openRecording(const RecordingArgs& args) {
     options.progress = &progress;
     LoadOutcome outcome;
     // One CSV file opens as a drop opens it; the command line itself refuses CSV files.
-    if (args.files.size() == 1 &&
-        FileRecognition::extensionOf(args.files[0]) == QLatin1String(".CSV")) {
+    const FamilyInfo* first =
+        Families::byExtension(FileRecognition::extensionOf(args.files.value(0)));
+    if (args.files.size() == 1 && first && first->code == Family::CSV) {
         outcome = openSingleCsv(args.files[0], view, options);
     } else {
         CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(args.files), args.gsMode);

@@ -22,7 +22,7 @@ QString DesktopStartup::commandLine() {
 }
 
 int DesktopStartup::ParseCommandFiles(const QString& commandLine) {
-    CommandFiles::ParseCommandFiles(commandLine, clsCommon::shared().OperationMode() == 34);
+    CommandFiles::ParseCommandFiles(commandLine, clsCommon::shared().isGsMode());
     return selection().SelFileCount;
 }
 

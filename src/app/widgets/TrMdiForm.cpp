@@ -1,5 +1,6 @@
 #include "app/widgets/TrMdiForm.h"
 
+#include "app/WindowRules.h"
 #include "app/widgets/ToolIcons.h"
 #include "base/widgets/ApplyLanguageFont.h"
 
@@ -50,18 +51,12 @@ int TrMdiForm::TileWindows(int mode, const QStringList& kinds) {
             QString::fromLatin1(sub->widget()->metaObject()->className()).toUpper();
         if (kinds.contains(kind)) tiled << sub;
     }
-    const QRect area = mdiArea_->viewport()->rect();
     const int n = int(tiled.size());
+    const QVector<QRect> rects = WindowRules::tiles(mode, n, mdiArea_->viewport()->rect());
     for (int i = 0; i < n; ++i) {
         QMdiSubWindow* sub = tiled[i];
         if (sub->isMinimized() || sub->isMaximized()) sub->showNormal();
-        if (mode == 0) {
-            const int left = area.width() * i / n;
-            sub->setGeometry(left, 0, area.width() * (i + 1) / n - left, area.height());
-        } else {
-            const int top = area.height() * i / n;
-            sub->setGeometry(0, top, area.width(), area.height() * (i + 1) / n - top);
-        }
+        sub->setGeometry(rects[i]);
     }
     return n;
 }

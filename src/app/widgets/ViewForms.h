@@ -1,5 +1,7 @@
 #pragma once
 
+#include "recording/RecordingLimits.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -37,5 +39,5 @@ private:
     void closed(int n);
 
     TrMdiForm* frame_;
-    std::array<QPointer<frmScrollTime>, 10> forms_;
+    std::array<QPointer<frmScrollTime>, MaxViews> forms_;
 };

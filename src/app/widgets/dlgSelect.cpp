@@ -5,7 +5,7 @@
 #include "base/LocaleInfo.h"
 #include "base/clsCommon.h"
 #include "base/widgets/ApplyLanguageFont.h"
-#include "recording/FamilyCodes.h"
+#include "recording/Families.h"
 #include "recording/ViewState.h"
 
 #include <QButtonGroup>
@@ -25,23 +25,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-struct Option {
-    int family;
-    const char* caption;
-    const char* pattern;
-};
-
-const Option kOptions[] = {
-    {Family::VXF, "(0) vxf", "*.vxf"},    {Family::VXB, "(1) vxb", "*.vxb"},
-    {Family::QDF, "(2) QD3000", "*.qdf"}, {Family::TM, "(3) TM", "*.***"},
-    {Family::N5F, "(4) NP5000", "*.n5f"}, {Family::CSV, "(5) CSV", "*.csv"},
-    {Family::JLM, "(6) JLM", "*.jlm"},    {Family::P4F, "(34) p4f", "*.p4f"},
-};
-
-bool offered(int family, bool gsMode) {
-    return gsMode ? family == Family::VXB || family == Family::P4F : family != Family::P4F;
-}
 
 QTreeWidget* fileList(QWidget* parent, const char* name) {
     auto* list = new QTreeWidget(parent);
@@ -67,9 +50,8 @@ void addFileRow(QTreeWidget* list, const QFileInfo& info, const QString& name) {
 } // namespace
 
 QString dlgSelect::pattern(int family) {
-    for (const Option& o : kOptions)
-        if (o.family == family) return QLatin1String(o.pattern);
-    return QString();
+    const FamilyInfo* f = Families::byCode(family);
+    return f && f->pattern ? QLatin1String(f->pattern) : QString();
 }
 
 QStringList dlgSelect::matchingFiles(const QString& dir, int family) {
@@ -81,7 +63,7 @@ QStringList dlgSelect::matchingFiles(const QString& dir, int family) {
 }
 
 dlgSelect::dlgSelect(int viewNumber, QWidget* parent)
-    : QDialog(parent), viewNumber_(viewNumber), gsMode_(clsCommon::shared().OperationMode() == 34),
+    : QDialog(parent), viewNumber_(viewNumber), gsMode_(clsCommon::shared().isGsMode()),
       chooser_(gsMode_) {
     setObjectName(QStringLiteral("dlgSelect"));
     ApplyLanguageFont(this);
@@ -153,11 +135,11 @@ QWidget* dlgSelect::buildOptions() {
     box->setObjectName(QStringLiteral("fraType"));
     auto* column = new QVBoxLayout(box);
     options_ = new QButtonGroup(this);
-    for (const Option& o : kOptions) {
-        if (!offered(o.family, gsMode_)) continue;
-        auto* radio = new QRadioButton(QLatin1String(o.caption), box);
-        radio->setObjectName(QStringLiteral("optType%1").arg(o.family));
-        options_->addButton(radio, o.family);
+    for (const FamilyInfo& f : Families::all()) {
+        if (!f.offeredIn(gsMode_)) continue;
+        auto* radio = new QRadioButton(QLatin1String(f.caption), box);
+        radio->setObjectName(QStringLiteral("optType%1").arg(f.code));
+        options_->addButton(radio, f.code);
         column->addWidget(radio);
     }
     column->addStretch();

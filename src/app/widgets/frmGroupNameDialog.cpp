@@ -4,6 +4,7 @@
 #include "base/AppPaths.h"
 #include "base/LanguageTable.h"
 #include "base/widgets/ApplyLanguageFont.h"
+#include "recording/RecordingLimits.h"
 #include "recording/ViewSlots.h"
 
 #include <QDialogButtonBox>
@@ -22,10 +23,8 @@ frmGroupNameDialog::frmGroupNameDialog(QWidget* parent) : QDialog(parent) {
     grid_->horizontalHeader()->setStretchLastSection(true);
     grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
-    for (int row = 0; row < 10; ++row) {
-        QString name = GroupNames(row + 1);
-        if (name.isEmpty()) name = defaultGroupName(row + 1);
-        auto* item = new QTableWidgetItem(name);
+    for (int row = 0; row < MaxViews; ++row) {
+        auto* item = new QTableWidgetItem(groupNameOrDefault(row + 1));
         // A view that is open is shown in bold.
         QFont font = item->font();
         font.setBold(ViewInUse(row));
@@ -52,10 +51,7 @@ void frmGroupNameDialog::selectRow(int view) {
 void frmGroupNameDialog::take() {
     const int row = grid_->currentRow();
     if (row < 0) return;
-    for (int i = 0; i < 10; ++i) {
-        const QString name = grid_->item(i, 0)->text().trimmed();
-        setGroupName(i + 1, name.isEmpty() ? defaultGroupName(i + 1) : name);
-    }
+    for (int i = 0; i < MaxViews; ++i) setGroupName(i + 1, grid_->item(i, 0)->text());
     SaveGroupNames(false);
     chosen_ = row + 1;
     accept();

@@ -3,6 +3,7 @@
 #include "app/ClickFile.h"
 #include "app/StartFiles.h"
 #include "app/SubMain.h"
+#include "app/WindowRules.h"
 #include "app/widgets/ToolIcons.h"
 #include "app/widgets/TrMdiForm.h"
 #include "app/widgets/ViewForms.h"
@@ -47,7 +48,7 @@ const QStringList kSettingsWindows{QStringLiteral("ftpSetForm"), QStringLiteral(
 constexpr int kMainWindowRecord = 0;
 
 bool gsMode() {
-    return clsCommon::shared().OperationMode() == 34;
+    return clsCommon::shared().isGsMode();
 }
 
 } // namespace
@@ -166,10 +167,10 @@ void frmMain::writeFtpSettings() {
 void frmMain::restoreWindow() {
     WindBakRecord rec;
     if (!ReadWindBak(kMainWindowRecord, rec)) return;
-    QRect wanted(rec.Window[0], rec.Window[1], rec.Window[2], rec.Window[3]);
-    const QRect screen = frame_->screen()->availableGeometry();
-    if (wanted.width() >= 320 && wanted.height() >= 240 && screen.intersects(wanted))
-        frame_->setGeometry(wanted.intersected(screen));
+    const QRect saved(rec.Window[0], rec.Window[1], rec.Window[2], rec.Window[3]);
+    if (const auto placed =
+            WindowRules::restoredGeometry(saved, frame_->screen()->availableGeometry()))
+        frame_->setGeometry(*placed);
     if (rec.WindowState == 2) frame_->showMaximized();
 }
 
@@ -197,11 +198,10 @@ QString frmMain::Label2Text() const {
 }
 
 bool frmMain::OpenView(int number) {
-    if (number < 1 || number > 10) return false;
+    if (number < 1 || number > MaxViews) return false;
     const SelectionLists& sel = selection();
     Label2_->setText(familyWord(sel.SelFileType, sel.SelFileName.value(0)));
-    for (int group = 1; group <= 10; ++group)
-        if (GroupNames(group).isEmpty()) setGroupName(group, defaultGroupName(group));
+    for (int group = 1; group <= MaxViews; ++group) setGroupName(group, GroupNames(group));
     frmScrollTime* form = forms_->ensure(number);
     copySelectionToView(views(number));
     forms_->bringForward(number);
@@ -224,7 +224,7 @@ void frmMain::timFTP_Timer() {
 }
 
 bool frmMain::anyViewLoading() const {
-    for (int n = 1; n <= 10; ++n)
+    for (int n = 1; n <= MaxViews; ++n)
         if (views(n).Loading) return true;
     return false;
 }
@@ -238,20 +238,19 @@ bool frmMain::settingsWindowOpen() const {
 }
 
 void frmMain::timDoubleClick_Timer() {
-    if (!AppStarted() || anyViewLoading()) return;
-    timDoubleClick_->stop();
     const QString path = clickFilePath();
-    if (QFile::exists(path)) {
-        if (settingsWindowOpen()) {
-            QFile::remove(path);
-        } else {
-            const int n = FirstFreeView();
-            const bool read = n > 0 && ReadClickFile(selection(), path);
-            // Removed before the view loads, so that a hand-off written meanwhile is not lost.
-            QFile::remove(path);
-            if (read) OpenView(n);
-        }
-    }
+    WindowRules::HandOffPoll poll;
+    poll.started = AppStarted();
+    poll.anyViewLoading = anyViewLoading();
+    poll.fileWaiting = QFile::exists(path);
+    poll.settingsOpen = poll.fileWaiting && settingsWindowOpen();
+    poll.freeView = FirstFreeView();
+    const WindowRules::HandOff step = WindowRules::handOffStep(poll);
+    if (step == WindowRules::HandOff::Later) return;
+    timDoubleClick_->stop();
+    if (step == WindowRules::HandOff::Discard) QFile::remove(path);
+    if (step == WindowRules::HandOff::Open && WindowRules::takeClickFile(selection(), path))
+        OpenView(poll.freeView);
     if (!unloaded_) timDoubleClick_->start();
 }
 
@@ -276,7 +275,7 @@ int frmMain::NewView() {
     int n = 0;
     if (forms_->openCount() == 0) {
         n = 1;
-        if (GroupNames(1).isEmpty()) setGroupName(1, defaultGroupName(1));
+        setGroupName(1, GroupNames(1));
     } else {
         frmGroupNameDialog dialog(frame_);
         if (dialog.exec() == QDialog::Accepted) n = dialog.chosenView();
@@ -297,8 +296,7 @@ void frmMain::Toolbar1_ButtonClick(int index) {
         break;
     case 2:
     case 3: {
-        const int mode = forms_->openCount() == 1 ? 1 : index - 2;
-        frame_->TileWindows(mode, kTiledKinds);
+        frame_->TileWindows(WindowRules::tilingMode(index, forms_->openCount()), kTiledKinds);
         break;
     }
     case 7: {

@@ -54,7 +54,7 @@ void setHelpFile(const QString& path) {
 }
 
 bool ShowHelp() {
-    if (ActiveLanguage() == kChinese && clsCommon::shared().OperationMode() == 34) return false;
+    if (ActiveLanguage() == kChinese && clsCommon::shared().isGsMode()) return false;
     const QFileInfo help(helpFile());
     const QStringList candidates{
         help.absolutePath() + QLatin1Char('/') + help.completeBaseName() + QStringLiteral(".html"),

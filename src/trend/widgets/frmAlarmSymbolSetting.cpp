@@ -171,7 +171,7 @@ void frmAlarmSymbolSetting::takeCell(int row, int col) {
         style.setColor(level, row + 1, WinColor::fromQColor(item->background().color()));
         break;
     default:
-        style.setSize(level, row + 1, qint16(qBound(1, item->data(Qt::EditRole).toInt(), 99)));
+        style.setSize(level, row + 1, item->data(Qt::EditRole).toInt());
         break;
     }
 }

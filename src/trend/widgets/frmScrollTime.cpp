@@ -244,9 +244,9 @@ bool frmScrollTime::LoadRecording() {
     progress.show();
     LoadOptions options;
     options.progress = &progress;
-    options.confirmCancel = [] { return ShowMsg(1, MsgText(574)) == kYes; };
+    options.confirmCancel = [] { return ShowMsg(kMsgQuestion, MsgText(574)) == kYes; };
     const LoadOutcome outcome = ::LoadRecording(view, options);
-    if (outcome.message != 0) ShowMsg(outcome.ok() ? 4 : 2, outcome.text());
+    if (outcome.message != 0) ShowMsg(outcome.ok() ? kMsgInformation : kMsgWarning, outcome.text());
     if (!outcome.ok()) return false;
     const bool shown = trend_->afterLoad(&progress);
     if (shown) {
@@ -294,7 +294,7 @@ void frmScrollTime::Form_Resize() {
     hsbTrendGraph_->setGeometry(int(plot.left()), area.height() - barHeight, int(plot.width()),
                                 barHeight);
     trend_->scales().setPlotHeight(plot.height());
-    if (trend_->state().ScaleType == 2 && plot.height() != stripPlotHeight_) {
+    if (trend_->state().ScaleType == ScaleType::MultiScale && plot.height() != stripPlotHeight_) {
         stripPlotHeight_ = plot.height();
         trend_->scales().MultiScaleDispResize();
     } else {
@@ -304,7 +304,7 @@ void frmScrollTime::Form_Resize() {
 
 void frmScrollTime::drawStrips() {
     const auto& layout = trend_->scales().strips();
-    const bool shown = trend_->state().ScaleType == 2;
+    const bool shown = trend_->state().ScaleType == ScaleType::MultiScale;
     // The strips' tag and unit stand above the plot: keep two lines of room there.
     ChartModel& model = trend_->chart();
     QMargins margins = model.chartAreaMargins();
