@@ -41,38 +41,8 @@ bool clsLibrary::DirExists(const QString& path) {
     return ::DirExists(path);
 }
 
-bool clsLibrary::makeDir(const QString& path) {
-    if (!QDir::isAbsolutePath(path)) return false;
-    if (::DirExists(path)) return true;
-    if (path.startsWith(QLatin1String("//"))) {
-        // A network path: its server and share exist or not; only the levels below are made.
-        const QStringList parts = path.mid(2).split(QLatin1Char('/'), Qt::SkipEmptyParts);
-        if (parts.size() < 2) return false;
-        const QString share = QStringLiteral("//") + parts[0] + QLatin1Char('/') + parts[1];
-        if (!::DirExists(share)) return false;
-    }
-    return QDir().mkpath(path);
-}
-
 QString clsLibrary::getFileTitle(const QString& path) {
     return QFileInfo(path).fileName();
-}
-
-QString clsLibrary::getFileTitleEx(const QString& path) {
-    const QString name = getFileTitle(path);
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot > 0 ? name.left(dot) : name;
-}
-
-QString clsLibrary::getFileExt(const QString& path) {
-    const QString name = getFileTitle(path);
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot > 0 ? name.mid(dot + 1) : QString();
-}
-
-QString clsLibrary::getDirName(const QString& path) {
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    return slash >= 0 ? path.left(slash + 1) : QString();
 }
 
 QString clsLibrary::getFileSize(const QString& path, bool grouped) {
@@ -92,12 +62,6 @@ QStringList clsLibrary::getFileList(const QString& directory, const QString& pat
     return filesMatching(directory, re);
 }
 
-QStringList clsLibrary::getFileListEx(const QString& directory, const QString& regex) {
-    const QRegularExpression re(regex, QRegularExpression::CaseInsensitiveOption);
-    if (!re.isValid()) return {};
-    return filesMatching(directory, re);
-}
-
 QStringList clsLibrary::getFolderList(const QString& directory) {
     const QDir dir(directory);
     if (directory.isEmpty() || !dir.exists()) return {};
@@ -112,25 +76,6 @@ bool clsLibrary::checkFileName(const QString& name) {
     for (const QChar c : name)
         if (c.unicode() < 32) return false;
     return true;
-}
-
-bool clsLibrary::checkFileNameWithLen(const QString& name, int maxLength) {
-    return checkFileName(name) && name.size() <= maxLength;
-}
-
-bool clsLibrary::checkPathName(const QString& path) {
-    if (!QDir::isAbsolutePath(path)) return false;
-    for (const QString& part : path.split(QLatin1Char('/'), Qt::SkipEmptyParts))
-        if (!checkFileName(part)) return false;
-    return true;
-}
-
-int clsLibrary::checkDriveType(const QString& path) {
-    if (!QDir::isAbsolutePath(path)) return 1;
-    QString existing = path;
-    while (!QFileInfo::exists(existing) && existing != QLatin1String("/"))
-        existing = QFileInfo(existing).absolutePath();
-    return QStorageInfo(existing).isValid() ? 3 : 1;
 }
 
 qint64 clsLibrary::getDiskFreeSP(const QString& path) {

@@ -55,21 +55,6 @@ clsLibrary& clsLibrary::shared() {
     return instance;
 }
 
-void clsLibrary::saveINIParam(const QString& section, const QString& key, const QString& value) {
-    clsINI ini;
-    ini.setIniPath(AppPaths(0));
-    ini.setIniFileName(getIniFileName());
-    ini.putIniData(section, key, value);
-}
-
-void clsLibrary::loadINIParam(const QString& section, const QString& key,
-                              const QString& defaultValue, QString& result) {
-    clsINI ini;
-    ini.setIniPath(AppPaths(0));
-    ini.setIniFileName(getIniFileName());
-    ini.getIniData(section, key, defaultValue, false, result);
-}
-
 QString clsLibrary::getIniFilePath(const QString& subDir, bool useAppData) {
     QString dir = useAppData ? getSPFolder(26) + QLatin1Char('/') + exeTitle() : AppPaths(0);
     while (dir.size() > 1 && dir.endsWith(QLatin1Char('/'))) dir.chop(1);
@@ -117,15 +102,6 @@ QString& clsLibrary::gstrWinDir() {
     return dir;
 }
 
-bool clsLibrary::gblnGetWinDir() {
-    // The system's own directory; on this platform the root of the system settings.
-    gstrWinDir() = QStringLiteral("/etc");
-    if (::DirExists(gstrWinDir())) return true;
-    MsgBox(QStringLiteral("Windowsディレクトリの取得に失敗しました。[gblnGetWinDir]"),
-           kFlagExclamation, QStringLiteral("gblnGetWinDir"));
-    return false;
-}
-
 void clsLibrary::getFileParam(const QString& section, const QString& key, QString& value,
                               bool& found) {
     QString text;
@@ -137,32 +113,4 @@ void clsLibrary::getFileParam(const QString& section, const QString& key, QStrin
     part.replace(QLatin1Char('\t'), QLatin1Char('\n'));
     part.remove(QLatin1Char('"'));
     value = part.trimmed();
-}
-
-QString clsLibrary::tranStr(const QString& text) {
-    if (text.isEmpty()) return text;
-    const QString dir = AppPaths(0) + QStringLiteral("Lang");
-    if (!::DirExists(dir)) QDir().mkpath(dir);
-    clsINI ini;
-    ini.setIniPath(dir);
-    ini.setIniFileName(LanguageFileName);
-    QString result = ini.getIniData(QStringLiteral("Language"), text, text);
-    return result.replace(QLatin1String("vbCrLf"), QLatin1String("\r\n"));
-}
-
-void clsLibrary::setLogs(LogObject* errorLog, LogObject* traceLog) {
-    errorLog_ = errorLog;
-    traceLog_ = traceLog;
-}
-
-void clsLibrary::errorReport(const QString& text) {
-    if (errorLog_) errorLog_->LogWrite(QStringLiteral("[LibraryError]") + text);
-}
-
-void clsLibrary::traceReport(const QString& text) {
-    if (traceLog_) traceLog_->LogWrite(QStringLiteral("[LibraryTrace]") + text);
-}
-
-bool debugLogEnabled() {
-    return FileExists(AppPaths(0) + QStringLiteral("Debug.log"));
 }

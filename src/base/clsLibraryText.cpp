@@ -31,10 +31,11 @@ template <typename T> T toWhole(const QString& text) {
 }
 
 template <typename T> T reversed(T value) {
-    QByteArray bytes(reinterpret_cast<const char*>(&value), sizeof value);
-    bytes = clsLibrary::reverseByteArray(bytes);
+    char bytes[sizeof value];
+    std::memcpy(bytes, &value, sizeof value);
+    std::reverse(std::begin(bytes), std::end(bytes));
     T out;
-    std::memcpy(&out, bytes.constData(), sizeof out);
+    std::memcpy(&out, bytes, sizeof out);
     return out;
 }
 
@@ -63,31 +64,6 @@ double clsLibrary::toDouble(const QString& text) {
     return ok ? d : 0.0;
 }
 
-float clsLibrary::toSingle(const QString& text) {
-    const double d = toDouble(text);
-    return std::fabs(d) <= std::numeric_limits<float>::max() ? float(d) : 0.0f;
-}
-
-QByteArray clsLibrary::reverseByteArray(const QByteArray& bytes) {
-    QByteArray out(bytes.size(), Qt::Uninitialized);
-    std::reverse_copy(bytes.cbegin(), bytes.cend(), out.begin());
-    return out;
-}
-
-QString clsLibrary::toHexString(const QByteArray& bytes) {
-    return QString::fromLatin1(bytes.toHex().toUpper());
-}
-
-QByteArray clsLibrary::HexStringToByteArray(const QString& hex) {
-    return QByteArray::fromHex(hex.toLatin1());
-}
-
-float clsLibrary::HostToNetSingle(float value) {
-    return reversed(value);
-}
-double clsLibrary::HostToNetDouble(double value) {
-    return reversed(value);
-}
 qint32 clsLibrary::HostToNetLong(qint32 value) {
     return reversed(value);
 }
@@ -117,47 +93,14 @@ QString clsLibrary::getKeyToken(const QString& text, const QString& delimiter) {
     return text.left(at);
 }
 
-QString clsLibrary::matchingPattern(const QString& pattern, const QString& text) {
-    const QRegularExpression re(pattern, QRegularExpression::CaseInsensitiveOption);
-    if (!re.isValid()) return QString();
-    QString out;
-    for (const QRegularExpressionMatch& m : re.globalMatch(text))
-        out += QString::number(m.capturedStart()) + QLatin1Char('\t') + m.captured() +
-               QLatin1Char('\n');
-    return out;
-}
-
 QDateTime clsLibrary::NowEx(int& msec) {
     const QDateTime now = QDateTime::currentDateTime();
     msec = now.time().msec();
     return now.addMSecs(-msec);
 }
 
-QString clsLibrary::formatNowEx(const QString& pattern) {
-    int msec = 0;
-    const QDateTime now = NowEx(msec);
-    const TimeBase::CalendarTime t{now.date().year(), now.date().month(),  now.date().day(),
-                                   now.time().hour(), now.time().minute(), now.time().second()};
-    QString text = VbFormat::formatDateTime(t, pattern);
-    text.replace(QLatin1String("bbb"), get0FillStr(msec, 3));
-    text.replace(QLatin1Char('b'), QString::number(msec));
-    return text;
-}
-
 qint64 clsLibrary::getStopWatch() {
     return Stopwatch::tick();
-}
-
-double clsLibrary::GetIntegrationTime() {
-    return double(Stopwatch::tick()) / 1000.0;
-}
-
-void clsLibrary::getWindowsVersion(int& number, QString& name) {
-    const QStringList parts = QSysInfo::kernelVersion().split(QLatin1Char('.'));
-    const int major = parts.value(0).toInt();
-    const int minor = parts.value(1).toInt();
-    number = 2000000 + major * 10000 + std::min(minor, 9999);
-    name = QSysInfo::prettyProductName();
 }
 
 QString clsLibrary::getSPFolder(int code) {
@@ -171,13 +114,4 @@ QString clsLibrary::getSPFolder(int code) {
     default:
         return QString();
     }
-}
-
-QString clsLibrary::getCommandLine() {
-    if (!QCoreApplication::instance()) return QString();
-    QStringList args = QCoreApplication::arguments();
-    if (!args.isEmpty()) args.removeFirst();
-    for (QString& a : args)
-        if (a.contains(QLatin1Char(' '))) a = QLatin1Char('"') + a + QLatin1Char('"');
-    return args.join(QLatin1Char(' '));
 }
