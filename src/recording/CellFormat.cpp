@@ -17,28 +17,42 @@ QString tmLogText(qint16 r) {
     const int m = r / 32; // truncates toward zero
     int e = r % 32;       // keeps the sign of r
     if (e > 10) e -= 32;
-    return QString::number(m / 100.0, 'f', 2) + QLatin1Char('E') +
-           QLatin1Char(e < 0 ? '-' : '+') + QString::number(std::abs(e));
+    return QString::number(m / 100.0, 'f', 2) + QLatin1Char('E') + QLatin1Char(e < 0 ? '-' : '+') +
+           QString::number(std::abs(e));
 }
 
 QString tmStatus(qint16 r) {
     switch (r) {
-    case 32700: return QStringLiteral("OVER");
-    case 32767: return QStringLiteral("BURN");
-    case -32700: return QStringLiteral("UNDER");
-    case -32768: return QStringLiteral("N.DATA");
-    case -32701: return QStringLiteral("FAIL");
-    default: return QString();
+    case 32700:
+        return QStringLiteral("OVER");
+    case 32767:
+        return QStringLiteral("BURN");
+    case -32700:
+        return QStringLiteral("UNDER");
+    case -32768:
+        return QStringLiteral("N.DATA");
+    case -32701:
+        return QStringLiteral("FAIL");
+    default:
+        return QString();
     }
 }
 
 } // namespace
 
 QString CellFormat::text(quint32 raw) const {
+    // A cell holds 8 characters: what a reader's rule writes longer is cut as a cell would cut it.
+    return fullText(raw).left(kCellChars);
+}
+
+QString CellFormat::fullText(quint32 raw) const {
     switch (kind) {
-    case Kind::Alarm: return AlarmCell::text(quint16(raw));
-    case Kind::Plain: return SampleRules::plainText(qint16(quint16(raw)), decimals);
-    case Kind::Float2: return SampleRules::float2Text(quint16(raw), decimals);
+    case Kind::Alarm:
+        return AlarmCell::text(quint16(raw));
+    case Kind::Plain:
+        return SampleRules::plainText(qint16(quint16(raw)), decimals);
+    case Kind::Float2:
+        return SampleRules::float2Text(quint16(raw), decimals);
     case Kind::Float32: {
         float f;
         std::memcpy(&f, &raw, sizeof f);

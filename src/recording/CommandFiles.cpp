@@ -3,6 +3,8 @@
 #include "recording/Families.h"
 #include "recording/FileRecognition.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace {
@@ -81,7 +83,9 @@ void ParseCommandFiles(const QString& commandLine, bool gsMode, SelectionLists& 
     sel.clear();
     int kind = -1;
     QStringList taken;
-    for (const QString& token : list) {
+    for (const QString& typed : list) {
+        // Paths are made absolute at once: a hand-off resolves them in another folder.
+        const QString token = typed.isEmpty() ? typed : QFileInfo(typed).absoluteFilePath();
         const int family = familyOfToken(token);
         if (family == Family::VXB) {
             taken = {token};

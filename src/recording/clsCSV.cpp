@@ -91,20 +91,24 @@ bool clsCSV::lineTime(qint64& time, int& msec) const {
     return true;
 }
 
-void clsCSV::readTitles(const QStringList& titles) {
+void clsCSV::readTitles(const QStringList& titles, int dataFields) {
     tags_.clear();
     units_.clear();
     firstAlarm_ = -1;
-    titleFields_ = int(titles.size());
-    for (int i = lead_; i < titles.size(); ++i) {
+    // Line 1 may give the date and time one title ("Date") or two (an empty field and "Time")
+    // whatever the data lines do: the difference of the field counts tells how many it has.
+    const int titleLead = std::clamp(int(titles.size()) - (dataFields - lead_), 1, lead_);
+    const int shift = lead_ - titleLead; // title index + shift = data field index
+    titleFields_ = int(titles.size()) + shift;
+    for (int i = titleLead; i < titles.size(); ++i) {
         if (titles[i].trimmed().endsWith(QLatin1String("AL"))) {
-            firstAlarm_ = i;
+            firstAlarm_ = i + shift;
             break;
         }
     }
     channelCount_ = std::max(0, (firstAlarm_ < 0 ? titleFields_ : firstAlarm_) - lead_);
     for (int i = 0; i < channelCount_; ++i) {
-        const QString title = titles[lead_ + i].trimmed();
+        const QString title = titles[titleLead + i].trimmed();
         const qsizetype open = title.lastIndexOf(QLatin1String(" ["));
         if (open >= 0 && title.endsWith(QLatin1Char(']'))) {
             tags_ << title.left(open).trimmed();
@@ -123,7 +127,7 @@ bool clsCSV::GetSTimeCSV(qint64& time, int& msec) {
     if (!nextLine()) return false;
     // Date and time share the first field when it holds a blank; otherwise they take two.
     lead_ = fields_.value(0).trimmed().contains(QLatin1Char(' ')) ? 1 : 2;
-    readTitles(titles);
+    readTitles(titles, int(fields_.size()));
     if (!lineTime(firstTime_, firstMsec_)) return false;
     time = firstTime_;
     msec = firstMsec_;

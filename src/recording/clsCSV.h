@@ -45,7 +45,7 @@ public:
 private:
     bool nextLine();
     bool lineTime(qint64& time, int& msec) const;
-    void readTitles(const QStringList& titles);
+    void readTitles(const QStringList& titles, int dataFields);
 
     QString path_;
     QStringList lines_;
@@ -56,7 +56,7 @@ private:
     int dataCount_ = 0;
     int lead_ = 1;        // fields before the values: 1 (date and time together) or 2
     int firstAlarm_ = -1; // field index of the first alarm column
-    int titleFields_ = 0;
+    int titleFields_ = 0; // line 1's fields, counted as the data lines count theirs
     qint64 firstTime_ = 0;
     int firstMsec_ = 0;
 };

@@ -1,5 +1,6 @@
 #include "recording/clsStorage.h"
 
+#include "recording/CellFormat.h"
 #include "recording/Cp932.h"
 
 #include <QFile>
@@ -9,7 +10,7 @@
 #include <cstring>
 
 namespace {
-constexpr int kCellBytes = 8;
+constexpr int kCellBytes = CellFormat::kCellChars;
 }
 
 void clsStorage::Action(int action) {
@@ -79,7 +80,9 @@ void clsStorage::setMaxRows(int rows) {
     dataRowCnt_ = std::min(dataRowCnt_, maxRows_);
 }
 
-void clsStorage::setMaxCols(int cols) { columns_.resize(size_t(std::max(cols, 0)) + 1); }
+void clsStorage::setMaxCols(int cols) {
+    columns_.resize(size_t(std::max(cols, 0)) + 1);
+}
 
 void clsStorage::dropTextsInRows(Column& c, int firstRow, int lastRow) {
     if (!c.texts) return;
@@ -93,7 +96,8 @@ quint16* clsStorage::beginSegment(int col, int firstRow, int lastRow, const Cell
     firstRow = std::max(firstRow, 1);
     lastRow = std::min(lastRow, maxRows_);
     if (c->cells.size() < size_t(maxRows_) + 1) c->cells.resize(size_t(maxRows_) + 1);
-    if (format.wide() && c->high.size() < size_t(maxRows_) + 1) c->high.resize(size_t(maxRows_) + 1);
+    if (format.wide() && c->high.size() < size_t(maxRows_) + 1)
+        c->high.resize(size_t(maxRows_) + 1);
     if (firstRow <= lastRow) {
         dropTextsInRows(*c, firstRow, lastRow);
         Segment* last = c->segments.empty() ? nullptr : &c->segments.back();
@@ -145,7 +149,9 @@ qint64 clsStorage::memoryBytes() const {
     for (const Column& c : columns_) {
         bytes += qint64((c.cells.capacity() + c.high.capacity()) * sizeof(quint16));
         bytes += qint64(c.segments.capacity() * sizeof(Segment));
-        if (c.texts) bytes += qint64(c.texts->index.capacity() * sizeof(quint32)) + c.texts->pool.size() * 48;
+        if (c.texts)
+            bytes +=
+                qint64(c.texts->index.capacity() * sizeof(quint32)) + c.texts->pool.size() * 48;
     }
     return bytes;
 }
@@ -165,7 +171,8 @@ bool clsStorage::SaveToFile(const QString& path) const {
             GetText(col, row, text);
             if (text.isEmpty()) continue;
             const QByteArray bytes = Cp932::encode(text, kCellBytes);
-            std::memcpy(block.data() + qsizetype(row) * kCellBytes, bytes.constData(), size_t(bytes.size()));
+            std::memcpy(block.data() + qsizetype(row) * kCellBytes, bytes.constData(),
+                        size_t(bytes.size()));
         }
         if (file.write(block) != block.size()) return false;
     }
@@ -200,4 +207,6 @@ bool clsStorage::LoadFromFile(const QString& path) {
     return true;
 }
 
-bool clsStorage::TryLoadFile(const QString& path, int /*sheet*/) { return LoadFromFile(path); }
+bool clsStorage::TryLoadFile(const QString& path, int /*sheet*/) {
+    return LoadFromFile(path);
+}

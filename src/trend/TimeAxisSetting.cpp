@@ -43,7 +43,8 @@ bool TimeAxisSetting::index(const QString& date, const QString& time, qint64 sec
 int TimeAxisSetting::ok() {
     const qint64 last = qint64(v_.tables().PointCount) - 1;
     qint64 first = 0, end = last;
-    const bool startEmpty = startDate.trimmed().isEmpty() && startTime.trimmed().isEmpty();
+    // An empty cell, date or time, stands for the whole range's end on its side.
+    const bool startEmpty = startDate.trimmed().isEmpty() || startTime.trimmed().isEmpty();
     if (!startEmpty && !index(startDate, startTime, 0, first)) return refuse(557);
     if (mode == Mode::Span) {
         qint64 width = 0;
@@ -54,7 +55,7 @@ int TimeAxisSetting::ok() {
         }
         if (startEmpty || !index(startDate, startTime, width, end)) return refuse(559);
     } else {
-        const bool endEmpty = endDate.trimmed().isEmpty() && endTime.trimmed().isEmpty();
+        const bool endEmpty = endDate.trimmed().isEmpty() || endTime.trimmed().isEmpty();
         if (!endEmpty && !index(endDate, endTime, 0, end)) return refuse(559);
     }
     first = qMax<qint64>(first, 0);

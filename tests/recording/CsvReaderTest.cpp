@@ -48,6 +48,27 @@ TEST_F(CsvReader, DateAndTimeInOneOrTwoFieldsWithMilliseconds) {
     }
 }
 
+// Line 1 may give the date and time one title while the data lines give them two fields, or
+// two titles (an empty one over the date) as our own export writes: every channel is read.
+TEST_F(CsvReader, TitleLineLeadsWithOneOrTwoFieldsWhateverTheDataLines) {
+    const QStringList cases[] = {
+        {"Date,A [V],B [mA]", "2024/05/06,10:00:00,1,2", "2024/05/06,10:00:01,3,4"},
+        {",Time,A [V],B [mA]", "2024/05/06,10:00:00,1,2", "2024/05/06,10:00:01,3,4"},
+        {"Date,A [V],B [mA]", "2024/05/06 10:00:00,1,2", "2024/05/06 10:00:01,3,4"},
+        {"Date,A [V],B [mA],A AL,B AL", "2024/05/06,10:00:00,1,2,H,", "2024/05/06,10:00:01,3,4,,"},
+    };
+    for (const QStringList& lines : cases) {
+        SCOPED_TRACE(lines[0].toStdString());
+        ASSERT_TRUE(load(lines).ok());
+        EXPECT_EQ(view.ChannelCount, 2);
+        EXPECT_EQ(view.Channels.ChTag[1], QLatin1String("A"));
+        EXPECT_EQ(view.Channels.ChUnit[2], QLatin1String("mA"));
+        EXPECT_EQ(cellText(2, 1), QLatin1String("1"));
+        EXPECT_EQ(cellText(4, 2), QLatin1String("4"));
+    }
+    EXPECT_EQ(cellText(1, 1), QLatin1String("1000")); // the alarm of the last case
+}
+
 TEST_F(CsvReader, ValueTextsPassAsTheyStandCutToEightCharacters) {
     const QStringList lines{"Date,A [V],B [V],C [V]", "2024/05/06 10:00:00,123456789.5,OVER,abc",
                             "2024/05/06 10:00:01,-0.25,,N.DATA"};

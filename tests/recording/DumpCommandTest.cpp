@@ -67,6 +67,10 @@ TEST(DumpCommand, InfoSummarisesAndFailuresGiveAnErrorStatus) {
                   .exitCode,
               2);
     EXPECT_EQ(recview({QStringLiteral("info")}).exitCode, 2);
+    // A mistyped verb gives the usage at once instead of starting the desktop program.
+    const ProcessRun typo = recview({QStringLiteral("frobnicate"), path});
+    EXPECT_EQ(typo.exitCode, 2);
+    EXPECT_TRUE(typo.err.contains("Usage")) << typo.err.toStdString();
     EXPECT_NE(recview({QStringLiteral("info"), dir.path(QStringLiteral("none.vxf"))}).exitCode, 0);
 
     QByteArray bytes = buildVxf(simpleVxf(2, 10, 0, 10, [](int, int) { return qint16(1); }));

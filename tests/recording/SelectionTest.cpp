@@ -8,6 +8,9 @@
 #include "support/RecordingMessageSink.h"
 #include "support/VxfWriter.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -47,6 +50,16 @@ TEST_F(Selection, CommandLineDropsOtherIntervalsMagicsAndFamilies) {
     EXPECT_EQ(sel.SelStart, QVector<qint64>({100, 300}));
     EXPECT_EQ(sel.SelInterval, 1000);
     EXPECT_EQ(sel.SelFileType, Family::VXF);
+}
+
+// A second instance started in another folder hands over paths the first can open.
+TEST_F(Selection, RelativePathsAreMadeAbsoluteWhereTheyAreTyped) {
+    const QString a = vxf("a.vxf", 100);
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QFileInfo(a).absolutePath()));
+    CommandFiles::ParseCommandFiles(QStringLiteral("a.vxf"), false, sel);
+    QDir::setCurrent(before);
+    EXPECT_EQ(sel.SelFileName, QVector<QString>({a}));
 }
 
 TEST_F(Selection, AVxbTokenEndsTheParsing) {

@@ -52,6 +52,7 @@ TEST_F(TmReader, CountsAreScaledOrShownAsStatus) {
         {-25000, 32 * 150 + 12, "0.0", "1.50E-20"},
         {0, -163, "50.0", "-0.05E-3"},
         {12345, 32 * 7, "74.7", "0.07E+0"},
+        {0, 32 * 1023 + 11, "50.0", "10.23E-2"}, // "10.23E-21" is cut at 8 as every cell is
         {32700, 32700, "OVER", "OVER"},
         {32767, 32767, "BURN", "BURN"},
         {-32700, -32700, "UNDER", "UNDER"},

@@ -60,6 +60,15 @@ TEST(TimeAxisSetting, RangeSpanAndRefusals) {
     whole.startDate = whole.startTime = whole.endDate = whole.endTime = QString();
     EXPECT_EQ(whole.ok(), 0);
     EXPECT_EQ(whole.EndTime(), 1000);
+    // One cell of a side cleared is enough.
+    TimeAxisSetting half(d.view);
+    half.startDate = d.at(300).date;
+    half.startTime = QString();
+    half.endDate = QString();
+    half.endTime = d.at(500).timeText;
+    EXPECT_EQ(half.ok(), 0);
+    EXPECT_EQ(half.StartTime(), 1);
+    EXPECT_EQ(half.EndTime(), 1000);
 
     // Span: the first unit with a number above 0 is the width; 30 minutes are 180 points.
     TimeAxisSetting span(d.view);

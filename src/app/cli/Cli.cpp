@@ -2,6 +2,8 @@
 
 #include "app/cli/CliVerbs.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTextStream>
 
 #include <cstdio>
@@ -26,8 +28,13 @@ namespace Cli {
 bool isHeadless(const QStringList& args) {
     if (args.isEmpty()) return false;
     const QString& first = args.first();
-    return first == QLatin1String("--help") || first == QLatin1String("-h") ||
-           first == QLatin1String("--version") || findVerb(first) != nullptr;
+    if (first == QLatin1String("--help") || first == QLatin1String("-h") ||
+        first == QLatin1String("--version") || findVerb(first) != nullptr)
+        return true;
+    // A word of letters that names no file is a mistyped verb: the usage, not a window that
+    // waits for ever. Paths keep going to the desktop program.
+    static const QRegularExpression word(QStringLiteral("^[A-Za-z]+$"));
+    return word.match(first).hasMatch() && !QFileInfo::exists(first);
 }
 
 int run(const QStringList& args) {

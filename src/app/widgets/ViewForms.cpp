@@ -24,6 +24,7 @@ frmScrollTime* ViewForms::ensure(int n) {
     setViewInUse(n - 1, true);
     connect(form, &frmScrollTime::viewClosed, this, &ViewForms::closed);
     connect(form, &frmScrollTime::filesDropped, this, &ViewForms::filesDropped);
+    connect(form, &frmScrollTime::openFilesRequested, this, &ViewForms::openFilesRequested);
     QMdiSubWindow* sub = frame_->addChild(form);
     place(sub, n);
     sub->show();

@@ -33,6 +33,7 @@ public:
 
 Q_SIGNALS:
     void filesDropped(int viewNumber, const QStringList& paths);
+    void openFilesRequested(int viewNumber);
 
 private:
     void place(QMdiSubWindow* sub, int n);

@@ -84,6 +84,7 @@ frmMain::frmMain(TrMdiForm* frame)
     connect(frame_, &TrMdiForm::filesDropped, this, &frmMain::dropOnMain);
     connect(frame_, &TrMdiForm::closing, this, &frmMain::Form_Unload);
     connect(forms_, &ViewForms::filesDropped, this, &frmMain::dropOnView);
+    connect(forms_, &ViewForms::openFilesRequested, this, &frmMain::openFilesInto);
 }
 
 frmMain::~frmMain() = default;

@@ -2,12 +2,14 @@
 
 #include "base/LanguageTable.h"
 #include "base/ShowMsg.h"
+#include "base/clsCommon.h"
 #include "platform/ChartGeometry.h"
 #include "platform/widgets/ChartWidget.h"
 #include "recording/RecordingLoader.h"
 #include "recording/widgets/frmProgress.h"
 #include "savedwork/BackupRecords.h"
 #include "trend/AlarmMarks.h"
+#include "trend/AlarmTable.h"
 #include "trend/HoverReadout.h"
 #include "trend/TrendCursors.h"
 #include "trend/TrendView.h"
@@ -27,7 +29,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -243,15 +244,28 @@ bool frmScrollTime::LoadRecording() {
     frmProgress progress(this);
     progress.show();
     LoadOptions options;
+    options.gsMode = clsCommon::shared().isGsMode();
     options.progress = &progress;
     options.confirmCancel = [] { return ShowMsg(kMsgQuestion, MsgText(574)) == kYes; };
     const LoadOutcome outcome = ::LoadRecording(view, options);
     if (outcome.message != 0) ShowMsg(outcome.ok() ? kMsgInformation : kMsgWarning, outcome.text());
+    if (outcome.status == LoadOutcome::Status::Cancelled) {
+        // A load the user stopped closes its view.
+        progress.close();
+        close();
+        return false;
+    }
     if (!outcome.ok()) return false;
-    const bool shown = trend_->afterLoad(&progress);
+    bool shown = trend_->afterLoad(&progress);
     if (shown) {
         cursors_->afterLoad();
-        AlarmMarks(*trend_).afterLoad();
+        if (!AlarmMarks(*trend_).afterLoad() && alarmTable(viewNumber_).points() == 0 &&
+            view.PointCount > 0) {
+            // No alarm table could be held ("Out of memory." was shown): the recording goes.
+            trend_->chart().setSeriesCount(0);
+            view.clearRecording();
+            shown = false;
+        }
         alarmMarks_->setChecked(false);
         sideGrid_->refresh();
     }
@@ -280,8 +294,7 @@ void frmScrollTime::toolbar1Command(int number) {
     if (number == 1) {
         close();
     } else if (number == 2) {
-        const QStringList paths = QFileDialog::getOpenFileNames(this, MsgText(217));
-        if (!paths.isEmpty()) Q_EMIT filesDropped(viewNumber_, paths);
+        Q_EMIT openFilesRequested(viewNumber_);
     }
 }
 

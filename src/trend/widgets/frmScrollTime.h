@@ -65,6 +65,8 @@ Q_SIGNALS:
     // Files were dropped on the view (or chosen by its open command); the main window decides
     // what they open.
     void filesDropped(int viewNumber, const QStringList& paths);
+    // The view's "Open files" command: the main window chooses the files for this view.
+    void openFilesRequested(int viewNumber);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
