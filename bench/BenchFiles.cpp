@@ -50,7 +50,9 @@ void writeFile(const QString& path, int fileIndex) {
 
 } // namespace
 
-QString defaultDir() { return QDir::tempPath() + QStringLiteral("/recview-bench"); }
+QString defaultDir() {
+    return QDir::tempPath() + QStringLiteral("/recview-bench");
+}
 
 QStringList ensureRecording(const QString& dir) {
     QDir().mkpath(dir);

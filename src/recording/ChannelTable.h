@@ -9,8 +9,8 @@
 // Channel descriptions of a view, channels 1..MaxChannels (index 0 unused).
 struct ChannelTable {
     std::array<qint16, MaxChannels + 1> ChExpDigits{};
-    std::array<QString, MaxChannels + 1> ChTag;  // at most 16 characters
-    std::array<QString, MaxChannels + 1> ChUnit; // at most 8 characters
+    std::array<QString, MaxChannels + 1> ChTag;     // at most 16 characters
+    std::array<QString, MaxChannels + 1> ChUnit;    // at most 8 characters
     std::array<quint32, MaxChannels + 1> ChColor{}; // 0x00BBGGRR
     std::array<QString, MaxChannels + 1> ChScaleLow;
     std::array<QString, MaxChannels + 1> ChScaleHigh;

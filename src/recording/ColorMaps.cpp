@@ -4,15 +4,17 @@
 
 namespace {
 
-constexpr quint32 rgb(int r, int g, int b) { return quint32(r) | quint32(g) << 8 | quint32(b) << 16; }
+constexpr quint32 rgb(int r, int g, int b) {
+    return quint32(r) | quint32(g) << 8 | quint32(b) << 16;
+}
 
 QString gLastError;
 
 const QVector<quint32> kHardware = {
-    rgb(0, 0, 0),       rgb(255, 51, 0),    rgb(0, 191, 0),     rgb(160, 105, 45),
-    rgb(0, 0, 191),     rgb(191, 0, 191),   rgb(0, 191, 191),   rgb(192, 192, 192),
-    rgb(225, 145, 80),  rgb(217, 255, 255), rgb(0, 255, 0),     rgb(255, 255, 0),
-    rgb(105, 135, 140), rgb(255, 210, 0),   rgb(0, 255, 255),   rgb(255, 255, 255)};
+    rgb(0, 0, 0),       rgb(255, 51, 0),    rgb(0, 191, 0),   rgb(160, 105, 45),
+    rgb(0, 0, 191),     rgb(191, 0, 191),   rgb(0, 191, 191), rgb(192, 192, 192),
+    rgb(225, 145, 80),  rgb(217, 255, 255), rgb(0, 255, 0),   rgb(255, 255, 0),
+    rgb(105, 135, 140), rgb(255, 210, 0),   rgb(0, 255, 255), rgb(255, 255, 255)};
 
 QVector<quint32> vxColors() {
     return {rgb(205, 50, 75),   rgb(100, 65, 205),  rgb(50, 150, 105),  rgb(160, 105, 45),
@@ -31,7 +33,7 @@ QVector<quint32> vxColors() {
 
 QVector<quint32> vxnColors() {
     QVector<quint32> colors = vxColors();
-    const quint32 reordered[] = {rgb(65, 85, 155),  rgb(225, 145, 80), rgb(130, 130, 165),
+    const quint32 reordered[] = {rgb(65, 85, 155),  rgb(225, 145, 80),  rgb(130, 130, 165),
                                  rgb(135, 170, 80), rgb(215, 130, 140), rgb(45, 175, 170),
                                  rgb(220, 185, 110)};
     for (int i = 0; i < 7; ++i) colors[5 + i] = reordered[i]; // entries 6..12
@@ -50,8 +52,12 @@ quint32 ColorMap::pick(const QVector<quint32>& list, int index, const char* meth
     return 0;
 }
 
-quint32 ColorMap::GetColor(int index) const { return pick(colors_, index, "GetColor"); }
-quint32 ColorMap::GetColorHW(int index) const { return pick(hardware_, index, "GetColorHW"); }
+quint32 ColorMap::GetColor(int index) const {
+    return pick(colors_, index, "GetColor");
+}
+quint32 ColorMap::GetColorHW(int index) const {
+    return pick(hardware_, index, "GetColorHW");
+}
 
 const ColorMap& ColorMapOfTMSeries() {
     static const ColorMap map(QStringLiteral("ColorMapOfTMSeries"),
@@ -100,7 +106,9 @@ const ColorMap& ColorMapOfMOVRA() {
 const ColorMap& ColorMapForVxMagic(const QString& magic) {
     const QString head = magic.left(3);
     return head == QLatin1String("W3N") || head == QLatin1String("W2N") ? ColorMapOfVXNSeries()
-                                                                         : ColorMapOfVXSeries();
+                                                                        : ColorMapOfVXSeries();
 }
 
-QString lastColorMapError() { return gLastError; }
+QString lastColorMapError() {
+    return gLastError;
+}

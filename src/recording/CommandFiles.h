@@ -13,8 +13,7 @@ namespace CommandFiles {
 QStringList tokens(const QString& commandLine);
 
 // Fills the selection from a command line; SelFileCount 0 when nothing is taken.
-void ParseCommandFiles(const QString& commandLine, bool gsMode,
-                       SelectionLists& sel = selection());
+void ParseCommandFiles(const QString& commandLine, bool gsMode, SelectionLists& sel = selection());
 
 // A command line in quoted form for a list of paths.
 QString quotedCommandLine(const QStringList& paths);

@@ -7,7 +7,9 @@
 namespace Cp932 {
 
 QString decode(const char* bytes, qsizetype length);
-inline QString decode(const QByteArray& bytes) { return decode(bytes.constData(), bytes.size()); }
+inline QString decode(const QByteArray& bytes) {
+    return decode(bytes.constData(), bytes.size());
+}
 
 // Encodes at most maxBytes bytes, cut on a character boundary; a character that cp932 cannot
 // hold becomes "?". A negative maxBytes means no limit.

@@ -2,7 +2,51 @@
 
 #include "recording/Cp932.h"
 
+#include <QFile>
+
 #include <cstring>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+FileBytes::~FileBytes() {
+    release();
+}
+
+void FileBytes::release() {
+    if (mapping_) munmap(mapping_, size_t(size_));
+    mapping_ = nullptr;
+    owned_.clear();
+    data_ = nullptr;
+    size_ = 0;
+}
+
+bool FileBytes::load(const QString& path) {
+    release();
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return false;
+    struct stat st {};
+    bool ok = false;
+    if (fstat(fd, &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 0) {
+        // Prefaulted in one go: the decode then reads the page cache with no faults of its own.
+        void* m = mmap(nullptr, size_t(st.st_size), PROT_READ, MAP_PRIVATE | MAP_POPULATE, fd, 0);
+        if (m != MAP_FAILED) {
+            mapping_ = m;
+            data_ = static_cast<const uchar*>(m);
+            size_ = st.st_size;
+            ok = true;
+        }
+    }
+    ::close(fd);
+    if (ok) return true;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    owned_ = file.readAll();
+    data_ = reinterpret_cast<const uchar*>(owned_.constData());
+    size_ = owned_.size();
+    return file.error() == QFileDevice::NoError;
+}
 
 quint16 FileBytes::ReadU16Le(qint64 o) const {
     require(o, 2);

@@ -17,6 +17,11 @@ public:
     FileBytes(const uchar* data, qint64 size) : data_(data), size_(size) {}
     FileBytes(const FileBytes&) = delete;
     FileBytes& operator=(const FileBytes&) = delete;
+    ~FileBytes();
+
+    // Takes a whole file: mapped read-only and prefaulted where the system allows (no copy of
+    // the file), else read with one call (pipes, special files). False when it cannot be read.
+    bool load(const QString& path);
 
     qint64 size() const { return size_; }
     const uchar* data() const { return data_; }
@@ -27,7 +32,10 @@ public:
         if (!has(offset, length)) throw ReadPastEnd();
     }
 
-    quint8 ReadByte(qint64 offset) const { require(offset, 1); return data_[offset]; }
+    quint8 ReadByte(qint64 offset) const {
+        require(offset, 1);
+        return data_[offset];
+    }
     quint16 ReadU16Le(qint64 offset) const;
     quint16 ReadU16Be(qint64 offset) const;
     qint16 ReadI16Le(qint64 offset) const { return qint16(ReadU16Le(offset)); }
@@ -41,7 +49,10 @@ public:
     QByteArray magic() const;
 
 private:
+    void release();
+
     QByteArray owned_;
     const uchar* data_ = nullptr;
     qint64 size_ = 0;
+    void* mapping_ = nullptr; // set while data_ is a mapping of its own
 };

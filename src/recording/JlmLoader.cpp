@@ -134,9 +134,8 @@ void JlmReader::readRows(int index, const FileBytes& b, const JlmHead& h) {
 
 void JlmReader::readFile(int index) {
     frame_.poll(index, 0, 1);
-    QByteArray data;
-    if (!readWholeFile(view_.FileName[index], data)) throw ReadPastEnd();
-    const FileBytes b(std::move(data));
+    FileBytes b;
+    if (!b.load(view_.FileName[index])) throw ReadPastEnd();
     const JlmHead h = JlmHead::read(b);
     if (index == 0) {
         view_.ViewTitle = QFileInfo(view_.FileName[0]).fileName();

@@ -47,9 +47,8 @@ void CoreReader::setUpView(const FormatReader& reader, int format) {
 
 void CoreReader::readFile(int index) {
     frame_.poll(index, 0, 1);
-    QByteArray data;
-    if (!readWholeFile(view_.FileName[index], data)) throw ReadPastEnd();
-    const FileBytes bytes(std::move(data));
+    FileBytes bytes;
+    if (!bytes.load(view_.FileName[index])) throw ReadPastEnd();
     if (index == 0) {
         view_.ViewTitle = QFileInfo(view_.FileName[0]).fileName();
         view_.ColorMapMagic = QString::fromLatin1(bytes.magic().left(3));

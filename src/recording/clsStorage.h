@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/HugePageAllocator.h"
 #include "recording/CellFormat.h"
 
 #include <QHash>
@@ -70,8 +71,8 @@ private:
         QHash<QString, quint32> ids;
     };
     struct Column {
-        std::vector<quint16> cells;
-        std::vector<quint16> high;
+        std::vector<quint16, HugePageAllocator<quint16>> cells;
+        std::vector<quint16, HugePageAllocator<quint16>> high;
         std::vector<Segment> segments;
         std::unique_ptr<TextCells> texts;
     };

@@ -192,3 +192,30 @@ TEST(FamilyRobustness, VxfOffsetsThatOverflowReadNoMessages) {
 }
 
 } // namespace
+
+namespace {
+
+// A file cut short after the selection recognised it (a recorder still writing it) fails with
+// message 560 and leaves the view empty; so does a file gone by then.
+TEST(FamilyRobustness, AFileCutAfterItsRecognitionFailsCleanly) {
+    FixtureDir dir;
+    const QString path = dir.write(
+        "cut.vxf", buildVxf(simpleVxf(2, 50, 0, 10, [](int r, int) { return qint16(r); })));
+    for (const qint64 left : {qint64(20), qint64(-1)}) {
+        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), false);
+        ASSERT_EQ(selection().SelFileCount, 1);
+        if (left < 0)
+            QFile::remove(path);
+        else
+            QFile(path).resize(left);
+        ViewState& view = views(1);
+        copySelectionToView(view);
+        const LoadOutcome out = LoadRecording(view, LoadOptions());
+        EXPECT_EQ(out.message, 560) << left;
+        EXPECT_EQ(view.PointCount, 0) << left;
+        dir.write("cut.vxf",
+                  buildVxf(simpleVxf(2, 50, 0, 10, [](int r, int) { return qint16(r); })));
+    }
+}
+
+} // namespace

@@ -5,4 +5,6 @@
 #include <ostream>
 
 // Lets GoogleTest print Qt texts readably in failure messages.
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}

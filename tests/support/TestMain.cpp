@@ -3,4 +3,6 @@
 
 #include <QGuiApplication>
 
-int main(int argc, char** argv) { return runTests<QGuiApplication>(argc, argv); }
+int main(int argc, char** argv) {
+    return runTests<QGuiApplication>(argc, argv);
+}

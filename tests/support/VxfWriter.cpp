@@ -113,7 +113,8 @@ VxfDescription simpleVxf(int channels, int rows, quint32 startTime, quint32 inte
     d.startTime = startTime;
     d.intervalTenths = intervalTenths;
     for (int c = 1; c <= channels; ++c)
-        d.channels.append({QByteArray("T") + QByteArray::number(c), "degC", (c - 1) % 48, false, 1, -1});
+        d.channels.append(
+            {QByteArray("T") + QByteArray::number(c), "degC", (c - 1) % 48, false, 1, -1});
     d.rows.resize(rows);
     for (int r = 1; r <= rows; ++r)
         for (int c = 1; c <= channels; ++c) d.rows[r - 1].append({value(r, c), 0, 0, 0});

@@ -3,4 +3,6 @@
 
 #include <QApplication>
 
-int main(int argc, char** argv) { return runTests<QApplication>(argc, argv, "en"); }
+int main(int argc, char** argv) {
+    return runTests<QApplication>(argc, argv, "en");
+}
