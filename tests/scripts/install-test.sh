@@ -106,8 +106,21 @@ echo "$out" | grep -qx "language table: $prefix/share/recview/langVX.txt" ||
     fail "language table not found in the prefix: $out"
 echo "$out" | grep -qx "manual: $prefix/share/recview/help/index.html" ||
     fail "manual not found in the prefix: $out"
-out=$(RECVIEW_LANG=en "$prefix/bin/recview" info "$files/line1.vxf" 2>&1) || fail "recview info: $out"
-echo "$out" | grep -q "^family: *VXF" || fail "recview info on a VXF file: $out"
+# Every family's file opens in the installed program as the file manager hands it over (P4F
+# belongs to the GS edition, MSG files to the TM recording they go with).
+info() { # WORD ARGS...
+    word=$1
+    shift
+    out=$(RECVIEW_LANG=en "$prefix/bin/recview" info "$@" 2>&1) || fail "recview info $*: $out"
+    echo "$out" | grep -q "^family: *$word " || fail "recview info $* is not $word: $out"
+}
+info VXF "$files/line1.vxf" "$files/DAY2.VXF"
+info QDF "$files/line1.qdf"
+info TM "$files/line1-tm" "$files/line1.msg"
+info N5F "$files/line1.n5f"
+info P4F --gs "$files/line1.p4f"
+info JLM "$files/line1.jlm"
+info CSV "$files/line1.csv"
 # A message of the table proves that the table was read, not only found.
 expected=$(awk -F'\t' '$1 == "<<VX>>" { m = NR } m && NR == m + 561 { print $3 }' \
            "$source/data/langVX.txt" | tr -d '\r')

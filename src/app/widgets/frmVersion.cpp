@@ -1,5 +1,6 @@
 #include "app/widgets/frmVersion.h"
 
+#include "app/widgets/AppIcon.h"
 #include "app/widgets/ToolIcons.h"
 #include "base/GSMode.h"
 #include "base/LanguageTable.h"
@@ -27,7 +28,8 @@ frmVersion::frmVersion(QWidget* parent) : QDialog(parent) {
     ApplyLanguageFont(this);
     setWindowTitle(MsgText(455));
     auto* icon = new QLabel(this);
-    icon->setPixmap(ToolIcons::mainButton(1).pixmap(64, 64));
+    const QIcon program = recviewIcon();
+    icon->setPixmap((program.isNull() ? ToolIcons::mainButton(1) : program).pixmap(64, 64));
     auto* text = new QLabel(this);
     text->setObjectName(QStringLiteral("lblVersion"));
     text->setText(QStringLiteral("<b style='font-size:14pt'>recview%1</b><br>%2 %3<br><br>Qt %4")
