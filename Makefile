@@ -3,13 +3,14 @@ BUILD_DIR   ?= build
 BUILD_TYPE  ?= RelWithDebInfo
 CMAKE_FLAGS ?=
 JOBS        ?= 2
+PREFIX      ?= /usr/local
 # Builds take a lock so that several checkouts or agents never compile at once on a small machine.
 LOCK        := flock /tmp/recview-build.lock
 # ccache, when present, lets several checkouts share their compiled objects.
 CCACHE      := $(shell command -v ccache 2>/dev/null)
 export CCACHE_BASEDIR := $(CURDIR)
 
-.PHONY: run test test-asan bench fuzz deps configure build
+.PHONY: run test test-asan bench fuzz deps configure build install package
 
 deps:
 	@scripts/install-deps
@@ -26,6 +27,19 @@ run: build
 
 test: build
 	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+# Installs into PREFIX (DESTDIR is honoured) and tells the desktop about the new file types.
+install: build
+	@cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+	@if [ -z "$(DESTDIR)" ]; then \
+	  update-mime-database $(PREFIX)/share/mime; \
+	  update-desktop-database -q $(PREFIX)/share/applications; \
+	  gtk-update-icon-cache -q -t $(PREFIX)/share/icons/hicolor 2>/dev/null || true; \
+	fi
+
+# The Debian package, in $(BUILD_DIR)/.
+package: build
+	@$(LOCK) cmake --build $(BUILD_DIR) --target package
 
 test-asan:
 	@$(MAKE) --no-print-directory test BUILD_DIR=build-asan BUILD_TYPE=Debug CMAKE_FLAGS="-DRECVIEW_SANITIZE=ON"

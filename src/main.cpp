@@ -1,5 +1,6 @@
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
+#include "app/widgets/AppIcon.h"
 #include "app/widgets/DesktopStartup.h"
 #include "base/ShowMsg.h"
 #include "base/widgets/frmMessageBox.h"
@@ -34,6 +35,9 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("recview"));
     QApplication::setStyle(QStringLiteral("Fusion"));
+    // The desktop entry's name lets the desktop match windows to the entry and its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("recview"));
+    QApplication::setWindowIcon(recviewIcon());
     MessageBoxSink boxes;
     setMessageSink(&boxes);
     installSavedTrendSettings();

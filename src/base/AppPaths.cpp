@@ -39,6 +39,13 @@ QString programDirectory() {
     return withTrailingSlash(dir);
 }
 
+QString shippedFile(const QString& name) {
+    const QString dir = AppPaths(0);
+    for (const QString& path : {dir + name, dir + QStringLiteral("../share/recview/") + name})
+        if (QFileInfo(path).isFile()) return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    return QString();
+}
+
 QString exeTitle() {
     if (!QCoreApplication::instance()) return QStringLiteral("recview");
     return QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();

@@ -13,6 +13,11 @@ QString withTrailingSlash(const QString& dir);
 // The executable's directory with one trailing "/".
 QString programDirectory();
 
+// A read-only file shipped with the program ("langVX.txt", "help/index.html"): the one beside
+// the executable, else the one in the install's share/recview/ beside bin/. "" when neither
+// exists. Nothing is ever written there.
+QString shippedFile(const QString& name);
+
 // The executable's name without directory and extension ("recview").
 QString exeTitle();
 

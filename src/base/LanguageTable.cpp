@@ -97,10 +97,9 @@ void loadLanguageTable(const QString& path, const QString& localeKey, bool zhCnF
 
 void loadLanguageTableFromProgramDirectory() {
     const QString dir = AppPaths(0);
-    QString path = dir + QStringLiteral("langVX.txt");
-    // An installed program finds its shipped files in share/recview beside bin/.
-    const QString installed = dir + QStringLiteral("../share/recview/langVX.txt");
-    if (!FileExists(path) && FileExists(installed)) path = installed;
+    // An installed program finds the table in share/recview/ when it is not beside it.
+    QString path = shippedFile(QStringLiteral("langVX.txt"));
+    if (path.isEmpty()) path = dir + QStringLiteral("langVX.txt");
     loadLanguageTable(path, LocaleInfo::system().languageKey,
                       FileExists(dir + QStringLiteral("zh-CN.ini")));
 }

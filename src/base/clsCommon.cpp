@@ -1,7 +1,12 @@
 #include "base/clsCommon.h"
 
+#include "base/HelpPages.h"
+#include "base/LanguageTable.h"
 #include "base/TimeBase.h"
 #include "base/VbFormat.h"
+
+#include <QDesktopServices>
+#include <QUrl>
 
 namespace {
 
@@ -77,4 +82,10 @@ bool clsCommon::IsReadable(qint64 interval, qint64 t1, qint64 t2, int ms1, int m
         b = c2.hour;
     }
     return a % divisor == b % divisor;
+}
+
+bool clsCommon::ShowHelp(const QString& window) const {
+    if (!helpAvailable(ActiveLanguage())) return false;
+    const QString page = HelpPages::pagePath(window);
+    return !page.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(page));
 }

@@ -37,6 +37,9 @@ public:
     QString GetFormattedLongDate() const { return QString(); }
     // False where no help is offered: the Chinese table in GS mode.
     bool helpAvailable(int language) const { return !(language == 4 && isGsMode()); }
+    // Opens the manual's page for a window (its object name) in the desktop's viewer. Does
+    // nothing where no help is offered for the active language. False when nothing was opened.
+    bool ShowHelp(const QString& window = QString()) const;
 
     // Whether two time stamps (seconds since 2000 and their milliseconds) stand in the same
     // phase of a label interval in milliseconds. An interval below 1 sets *error to

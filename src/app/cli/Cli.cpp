@@ -1,6 +1,8 @@
 #include "app/cli/Cli.h"
 
 #include "app/cli/CliVerbs.h"
+#include "base/AppPaths.h"
+#include "base/HelpPages.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -45,7 +47,12 @@ int run(const QStringList& args) {
         return 0;
     }
     if (args.first() == QLatin1String("--version")) {
-        out << "recview " << RECVIEW_VERSION << "\n";
+        // Where the shipped files were found tells an installation's state at a glance.
+        const QString table = shippedFile(QStringLiteral("langVX.txt"));
+        const QString manual = HelpPages::pagePath(QString());
+        out << "recview " << RECVIEW_VERSION << "\n"
+            << "language table: " << (table.isEmpty() ? QStringLiteral("not found") : table) << "\n"
+            << "manual: " << (manual.isEmpty() ? QStringLiteral("not found") : manual) << "\n";
         return 0;
     }
     if (const Verb* verb = findVerb(args.first())) return verb->run(args.mid(1));

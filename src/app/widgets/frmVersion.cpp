@@ -1,23 +1,21 @@
 #include "app/widgets/frmVersion.h"
 
+#include "app/widgets/AppIcon.h"
 #include "app/widgets/ToolIcons.h"
-#include "base/AppPaths.h"
 #include "base/GSMode.h"
 #include "base/LanguageTable.h"
 #include "base/clsCommon.h"
 #include "base/widgets/ApplyLanguageFont.h"
 
 #include <QApplication>
-#include <QDesktopServices>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
 
+// The name start-up gives the help; the manual that opens is the HTML one of HelpPages.
 QString& helpFile() {
     static QString path;
     return path;
@@ -30,7 +28,8 @@ frmVersion::frmVersion(QWidget* parent) : QDialog(parent) {
     ApplyLanguageFont(this);
     setWindowTitle(MsgText(455));
     auto* icon = new QLabel(this);
-    icon->setPixmap(ToolIcons::mainButton(1).pixmap(64, 64));
+    const QIcon program = recviewIcon();
+    icon->setPixmap((program.isNull() ? ToolIcons::mainButton(1) : program).pixmap(64, 64));
     auto* text = new QLabel(this);
     text->setObjectName(QStringLiteral("lblVersion"));
     text->setText(QStringLiteral("<b style='font-size:14pt'>recview%1</b><br>%2 %3<br><br>Qt %4")
@@ -53,19 +52,6 @@ void setHelpFile(const QString& path) {
     helpFile() = path;
 }
 
-bool ShowHelp() {
-    if (ActiveLanguage() == kChinese && clsCommon::shared().isGsMode()) return false;
-    const QFileInfo help(helpFile());
-    const QStringList candidates{
-        help.absolutePath() + QLatin1Char('/') + help.completeBaseName() + QStringLiteral(".html"),
-        AppPaths(0) + QStringLiteral("help/index.html"),
-        AppPaths(0) + QStringLiteral("README.md"),
-        AppPaths(0) + QStringLiteral("../share/doc/recview/README.md"),
-        AppPaths(0) + QStringLiteral("../README.md"),
-    };
-    for (const QString& path : candidates)
-        if (QFileInfo(path).isFile())
-            return QDesktopServices::openUrl(
-                QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
-    return false;
+bool ShowHelp(const QString& window) {
+    return clsCommon::shared().ShowHelp(window);
 }

@@ -9,9 +9,9 @@ public:
     explicit frmVersion(QWidget* parent = nullptr);
 };
 
-// The help file of the program (start-up sets it beside the program).
+// The help file of the program (start-up names it).
 void setHelpFile(const QString& path);
-// Opens the help in the desktop's viewer: the HTML help beside the help file when there is one,
-// otherwise the README of the program. Nothing happens for the Chinese GS edition, which has no
-// help. False when no help was found or it could not be opened.
-bool ShowHelp();
+// Opens the manual's page for a window (its object name; the manual's start for none) in the
+// desktop's viewer. Nothing happens for the Chinese GS edition, which has no help. False when
+// no manual was found or it could not be opened.
+bool ShowHelp(const QString& window = QString());
