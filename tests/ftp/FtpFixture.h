@@ -16,7 +16,7 @@
 // A remote tree served on 127.0.0.1, a local folder, and waits short enough for tests.
 class FtpFixture : public ::testing::Test {
 protected:
-    static constexpr const char* kPassword = "pw=1";
+    static constexpr const char* kPassword = "secret-1";
 
     static FtpSettings shortWaits(int port) {
         FtpSettings s;
