@@ -55,12 +55,17 @@ void FTPFile::FTPConectTEST(const QString& address, const QString& password, boo
     if (result && model) MakeFileList(*model);
 }
 
-void FTPFile::MakeFileList(FtpListModel& model) {
+QList<FtpEntry> FTPFile::currentListing() {
     McWinFTP& client = ftp();
     QList<FtpEntry> entries;
     for (client.FindFile(QStringLiteral("*.*")); !client.File().Eof; client.NextFile())
         entries.append(client.File());
-    model.setListing(client.CurDir(), entries);
+    return entries;
+}
+
+void FTPFile::MakeFileList(FtpListModel& model) {
+    const QList<FtpEntry> entries = currentListing();
+    model.setListing(ftp().CurDir(), entries);
 }
 
 void FTPFile::GetFile(int row, bool failIfExists, int transferType, int& result) {

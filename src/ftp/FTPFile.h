@@ -52,6 +52,8 @@ public:
     void FTPConectClose();
     // Fills the model from the server's current directory.
     void MakeFileList(FtpListModel& model);
+    // The entries of the server's current directory, for a model filled on another thread.
+    QList<FtpEntry> currentListing();
 
     QString CurDir() { return ftp().CurDir(); }
     void setCurDir(const QString& dir) { ftp().setCurDir(dir); }
