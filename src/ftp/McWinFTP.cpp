@@ -373,7 +373,7 @@ void McWinFTP::GetFile(const QString& remote, const QString& local, bool failIfE
 void McWinFTP::GetFile(const QByteArray& rawRemote, const QString& local, bool failIfExists,
                        int transferType, int& result) {
     result = 0;
-    QThread::msleep(50);
+    QThread::msleep(quint32(std::max(0, settings.fetchPauseMs)));
     if (!ensureConnected()) return;
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         if (failIfExists && QFileInfo::exists(local)) {
