@@ -21,6 +21,8 @@ const char* const kUsage =
     "  recview render [--gs] FILE... -o OUT.png|OUT.pdf [--size WxH]\n"
     "                 [--from \"YYYY-MM-DD hh:mm:ss\"] [--to \"YYYY-MM-DD hh:mm:ss\"]\n"
     "                                    the trend chart of the recording as an image\n"
+    "  recview collect [--settings FILE] [--port N] [--row N]...\n"
+    "                                    one FTP collection pass over the configured rows\n"
     "  recview --version | --help\n";
 
 } // namespace
