@@ -1,3 +1,4 @@
+#include "analysis/widgets/frmItiran.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
 #include "app/widgets/DesktopStartup.h"
@@ -37,6 +38,7 @@ int main(int argc, char** argv) {
     MessageBoxSink boxes;
     setMessageSink(&boxes);
     installSavedTrendSettings();
+    installDataList();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
     setMessageSink(nullptr);
