@@ -1,19 +1,21 @@
 // The data list over the 64-channel benchmark recording lengthened to 3,599,999 rows, the
 // longest a view takes: opening the list (the table built, no row filled), the first block,
 // a jump to row 3,000,000 and page-downs, each as the grid asks for them while it paints the
-// rows of one screen (30 rows, every column).
+// rows of one screen (30 rows, every column); and the window itself, opened and shown offscreen.
 #include "BenchFiles.h"
 
 #include "analysis/DataList.h"
 #include "analysis/GridModel.h"
+#include "analysis/widgets/frmItiran.h"
 #include "recording/CommandFiles.h"
 #include "recording/RecordingLoader.h"
 #include "recording/SelectionLists.h"
 #include "trend/AlarmMarks.h"
 #include "trend/TrendView.h"
 
+#include <QApplication>
 #include <QFile>
-#include <QGuiApplication>
+#include <QTableView>
 
 #include <benchmark/benchmark.h>
 
@@ -67,7 +69,7 @@ void BM_ListFirstBlock(benchmark::State& state) {
     DataList list(*gView, grid);
     list.load();
     for (auto _ : state) {
-        grid.refreshVirtual();
+        list.load(); // a fresh table: nothing filled, no text remembered
         paintScreen(grid, 1);
     }
 }
@@ -78,7 +80,7 @@ void BM_ListJumpTo3000000(benchmark::State& state) {
     DataList list(*gView, grid);
     list.load();
     for (auto _ : state) {
-        grid.refreshVirtual();
+        list.load();
         paintScreen(grid, 3000000);
     }
 }
@@ -91,7 +93,7 @@ void BM_List100PageDowns(benchmark::State& state) {
     list.load();
     const double before = residentMB();
     for (auto _ : state) {
-        grid.refreshVirtual();
+        list.load();
         for (int page = 0; page < 100; ++page) paintScreen(grid, 1 + page * kScreenRows);
     }
     paintScreen(grid, 3000000);
@@ -101,11 +103,29 @@ void BM_List100PageDowns(benchmark::State& state) {
 }
 BENCHMARK(BM_List100PageDowns)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// The window over all rows, opened, shown and painted once, then scrolled to the last row.
+void BM_ListWindowOpen(benchmark::State& state) {
+    double growth = 0;
+    for (auto _ : state) {
+        const double before = residentMB();
+        auto* window = new frmItiran(*gView);
+        window->show();
+        QApplication::processEvents();
+        QTableView* table = window->vaSpread1();
+        table->scrollTo(table->model()->index(kRows - 1, 2));
+        QApplication::processEvents();
+        growth = residentMB() - before;
+        delete window;
+    }
+    state.counters["window_MB"] = growth;
+}
+BENCHMARK(BM_ListWindowOpen)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+
 } // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
+    QApplication app(argc, argv);
     const QStringList files = BenchFiles::ensureRecording(
         qEnvironmentVariable("RECVIEW_BENCH_DIR", BenchFiles::defaultDir()), kRows);
     if (!loadView(files)) {

@@ -50,7 +50,9 @@ void DataList::load() {
     state().ListRowOffset = ListRows(view_).firstOffset();
     state().ListRowSet = 1;
     build();
+    grid_.setReDraw(false);
     hideSwitchedOffChannels();
+    grid_.setReDraw(true);
 }
 
 void DataList::CircleRechange() {
@@ -62,6 +64,7 @@ bool DataList::visibleSpanButton() const {
 }
 
 void DataList::build() {
+    texts_.clear();
     grid_.setReDraw(false);
     grid_.setMaxRows(0);
     grid_.setVirtualRows(kBlockRows);
@@ -179,8 +182,8 @@ void DataList::fillRow(const ListRows& rows, qint64 g) {
         const double y = chart.Y(i, p);
         grid_.setText(i + 1, r,
                       y == Chart::kHoleValue ? ChannelTexts::holeText(vn, i, sample)
-                                             : ChannelValueText(ScaleToEngineering(y, vn, i),
-                                                                ChannelTexts::formatCode(vn, i)));
+                                             : texts_.text(ScaleToEngineering(y, vn, i),
+                                                           ChannelTexts::formatCode(vn, i)));
         grid_.setForeColor(i + 1, r, alarm ? kAlarmColor : kNormalColor);
     }
 }

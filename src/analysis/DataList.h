@@ -2,6 +2,7 @@
 
 #include "analysis/DataListState.h"
 #include "analysis/GridModel.h"
+#include "analysis/ValueTextCache.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -67,4 +68,5 @@ private:
     TrendView& view_;
     GridModel& grid_;
     int viewNumber_;
+    ValueTextCache texts_;
 };

@@ -32,6 +32,10 @@ TEST(ListTexts, ChannelValueText) {
         {12.5, -1, "12.5"},
         {3.25, 7, "3.25"},
         {Chart::kHoleValue, 9, "1E+308"},
+        {2.675, 0, "2.675"},
+        {99999999999999.9, 0, "99999999999999.9"},
+        {1.5E+15, 0, "1500000000000000.0"},
+        {-2.5E+16, 0, "-25000000000000000.0"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(ChannelValueText(c.value, c.code), shown(QLatin1String(c.text)))

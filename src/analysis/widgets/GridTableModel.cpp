@@ -4,10 +4,17 @@
 #include "base/WinColor.h"
 
 GridTableModel::GridTableModel(GridModel& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(grid) {
+    : QAbstractTableModel(parent), grid_(grid), rows_(grid.maxRows()), cols_(grid.maxCols() + 1) {
+    // Only a new row or column count resets the view; headers and widths are redrawn.
     grid_.shapeChanged = [this] {
-        beginResetModel();
-        endResetModel();
+        if (rows_ != grid_.maxRows() || cols_ != grid_.maxCols() + 1) {
+            beginResetModel();
+            rows_ = grid_.maxRows();
+            cols_ = grid_.maxCols() + 1;
+            endResetModel();
+        } else if (cols_ > 0) {
+            Q_EMIT headerDataChanged(Qt::Horizontal, 0, cols_ - 1);
+        }
         Q_EMIT shapeChanged();
     };
     grid_.cellsChanged = [this] {
@@ -22,11 +29,11 @@ GridTableModel::~GridTableModel() {
 }
 
 int GridTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : grid_.maxRows();
+    return parent.isValid() ? 0 : rows_;
 }
 
 int GridTableModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : grid_.maxCols() + 1;
+    return parent.isValid() ? 0 : cols_;
 }
 
 QVariant GridTableModel::data(const QModelIndex& index, int role) const {

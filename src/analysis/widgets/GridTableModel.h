@@ -30,4 +30,6 @@ Q_SIGNALS:
 
 private:
     GridModel& grid_;
+    int rows_; // the counts the view was last told
+    int cols_;
 };
