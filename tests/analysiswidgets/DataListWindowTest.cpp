@@ -77,6 +77,10 @@ TEST(frmItiran, OpensJumpsAndMovesTheTrend) {
     QApplication::sendEvent(button, &leave);
     EXPECT_TRUE(list->Label1()->text().isEmpty());
 
+    // The circular graph reaches the list by name; outside it the whole recording stays.
+    EXPECT_TRUE(QMetaObject::invokeMethod(list, "CircleRechange"));
+    EXPECT_EQ(table->model()->rowCount(), 5000);
+
     list->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(w.window->findChildren<frmItiran*>().isEmpty());

@@ -34,8 +34,9 @@ public:
     using OutputCommand = std::function<void(frmItiran& list)>;
     static void setOutputCommand(int button, OutputCommand command);
 
-    // The circular graph moved to another circle.
-    void CircleRechange();
+    // The circular graph moved to another circle. Invokable by name, so that the trend view
+    // reaches it without knowing the class.
+    Q_INVOKABLE void CircleRechange();
     // A tool bar button by index 1..11, as a click on it.
     void toolbarCommand(int index);
     // Copies the selected block to the clipboard (pop1_1).
