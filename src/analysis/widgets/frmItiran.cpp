@@ -114,8 +114,8 @@ frmItiran::frmItiran(TrendView& view, QWidget* parent) : QWidget(parent), list_(
     connect(vaSpread1_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmItiran::selectionMoved);
 
-    list_.load();
     applyShape();
+    list_.load();
     buttons_[3]->setVisible(list_.visibleSpanButton());
     resize(820, 520);
     if (const QScreen* s = screen()) move(s->availableGeometry().center() - rect().center());
@@ -207,8 +207,12 @@ void frmItiran::applyShape() {
     }
     const int rowHeight =
         std::max(metrics.height() + 4, int(std::lround(grid_.rowHeight() * 4 / 3)));
-    vaSpread1_->verticalHeader()->setMinimumSectionSize(1);
-    vaSpread1_->verticalHeader()->setDefaultSectionSize(rowHeight);
+    // A new default height walks every row: it is set while the grid is still empty.
+    QHeaderView* rows = vaSpread1_->verticalHeader();
+    if (rows->defaultSectionSize() != rowHeight) {
+        rows->setMinimumSectionSize(1);
+        rows->setDefaultSectionSize(rowHeight);
+    }
 }
 
 void frmItiran::toolbarCommand(int index) {
