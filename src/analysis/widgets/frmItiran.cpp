@@ -132,7 +132,10 @@ void frmItiran::setOutputCommand(int button, OutputCommand command) {
 }
 
 frmItiran* frmItiran::open(frmScrollTime& view) {
-    frmItiran* list = view.findChild<frmItiran*>(QString(), Qt::FindDirectChildrenOnly);
+    // A closed list may wait for its deletion: only a shown one is the view's list.
+    frmItiran* list = nullptr;
+    for (frmItiran* open : view.findChildren<frmItiran*>(QString(), Qt::FindDirectChildrenOnly))
+        if (open->isVisible()) list = open;
     if (!list) list = new frmItiran(view.trend(), &view);
     list->show();
     list->raise();
