@@ -3,7 +3,8 @@
 #include <QString>
 
 #include <cstddef>
-#include <functional>
+#include <cstdint>
+#include <cstring>
 #include <unordered_map>
 
 // Remembers the texts of recent channel values (value and format code), so that a list
@@ -26,7 +27,12 @@ private:
     };
     struct KeyHash {
         std::size_t operator()(const Key& k) const {
-            return std::hash<double>()(k.value) ^ (std::size_t(k.code) * 0x9E3779B97F4A7C15ull);
+            // Values equal as numbers (0 and -0) hash alike.
+            const double v = k.value == 0 ? 0.0 : k.value;
+            std::uint64_t bits = 0;
+            std::memcpy(&bits, &v, sizeof bits);
+            return std::size_t(
+                (bits ^ std::uint64_t(std::uint32_t(k.code)) << 32) * 0x9E3779B97F4A7C15ull >> 16);
         }
     };
     std::unordered_map<Key, QString, KeyHash> texts_;
