@@ -14,10 +14,10 @@ namespace BenchFiles {
 namespace {
 
 // A smooth process value with slow drifts, some noise, a burn-out on one channel and alarms.
-void writeFile(const QString& path, int fileIndex) {
+void writeFile(const QString& path, int fileIndex, int rowCount) {
     fixtures::VxfDescription d = fixtures::simpleVxf(kChannelsPerFile, 0, 757382400, 10, nullptr);
     d.magic = QByteArray("VX3\0", 4);
-    d.rowCount = kRows;
+    d.rowCount = quint32(rowCount);
     d.batchText = "BENCH-" + QByteArray::number(fileIndex + 1);
     QFile f(path + QStringLiteral(".part"));
     if (!f.open(QIODevice::WriteOnly)) return;
@@ -25,8 +25,8 @@ void writeFile(const QString& path, int fileIndex) {
     std::vector<uchar> block;
     const int blockRows = 4096;
     quint32 noise = 12345u + quint32(fileIndex);
-    for (int r0 = 0; r0 < kRows; r0 += blockRows) {
-        const int rows = std::min(blockRows, kRows - r0);
+    for (int r0 = 0; r0 < rowCount; r0 += blockRows) {
+        const int rows = std::min(blockRows, rowCount - r0);
         block.assign(size_t(rows) * kChannelsPerFile * 4, 0);
         uchar* p = block.data();
         for (int r = r0; r < r0 + rows; ++r) {
@@ -54,13 +54,14 @@ QString defaultDir() {
     return QDir::tempPath() + QStringLiteral("/recview-bench");
 }
 
-QStringList ensureRecording(const QString& dir) {
+QStringList ensureRecording(const QString& dir, int rows) {
     QDir().mkpath(dir);
     QStringList paths;
     for (int i = 0; i < 2; ++i) {
-        const QString path = dir + QStringLiteral("/bench%1.vxf").arg(i + 1);
-        const qint64 expected = 2600 + qint64(kRows) * kChannelsPerFile * 4;
-        if (QFileInfo(path).size() != expected) writeFile(path, i);
+        const QString length = rows == kRows ? QString() : QStringLiteral("-%1").arg(rows);
+        const QString path = dir + QStringLiteral("/bench%1%2.vxf").arg(i + 1).arg(length);
+        const qint64 expected = 2600 + qint64(rows) * kChannelsPerFile * 4;
+        if (QFileInfo(path).size() != expected) writeFile(path, i, rows);
         paths << path;
     }
     return paths;

@@ -10,8 +10,9 @@ namespace BenchFiles {
 constexpr int kChannelsPerFile = 32;
 constexpr int kRows = 1000000;
 
-// Writes the two files into dir unless they are there already; returns their paths.
-QStringList ensureRecording(const QString& dir);
+// Writes the two files of `rows` rows into dir unless they are there already; returns their
+// paths. Other lengths than kRows are files of their own.
+QStringList ensureRecording(const QString& dir, int rows = kRows);
 
 // The default folder for generated benchmark files.
 QString defaultDir();

@@ -1,3 +1,4 @@
+#include "analysis/widgets/frmItiran.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
 #include "app/widgets/AppIcon.h"
@@ -41,6 +42,7 @@ int main(int argc, char** argv) {
     MessageBoxSink boxes;
     setMessageSink(&boxes);
     installSavedTrendSettings();
+    installDataList();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
     setMessageSink(nullptr);

@@ -1,8 +1,9 @@
 #include "base/NumberText.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -11,9 +12,13 @@ QString significantText(double value, int digits) {
     if (std::isinf(value)) return value < 0 ? QStringLiteral("-Inf") : QStringLiteral("Inf");
     if (value == 0) return QStringLiteral("0");
 
-    // "%.*e" rounds to the wanted significant digits and tells the decimal exponent after rounding.
+    // The scientific form rounds to the wanted significant digits and tells the decimal exponent
+    // after rounding.
     char buf[64];
-    std::snprintf(buf, sizeof buf, "%.*e", digits - 1, std::fabs(value));
+    const auto end = std::to_chars(buf, buf + sizeof buf - 1, std::fabs(value),
+                                   std::chars_format::scientific, digits - 1)
+                         .ptr;
+    *end = '\0';
     char* ePos = std::strchr(buf, 'e');
     const int exponent = std::atoi(ePos + 1);
     QString mantissa;

@@ -57,6 +57,20 @@ void ChartAxis::setMaxAuto(bool on) {
     set(maxAuto_, on);
 }
 
+double ChartAxis::origin() const {
+    return originAuto_ ? min() : origin_;
+}
+
+void ChartAxis::setOrigin(double value) {
+    origin_ = value;
+    originAuto_ = false;
+    changed();
+}
+
+void ChartAxis::setOriginAuto(bool on) {
+    set(originAuto_, on);
+}
+
 double ChartAxis::labelInterval() const {
     if (!labelIntervalAuto_) return labelInterval_;
     if (minAuto_ && maxAuto_) return model_->automaticScale(id_).step;

@@ -51,6 +51,11 @@ public:
     bool isMaxAuto() const { return maxAuto_; }
     void setMinAuto(bool on);
     void setMaxAuto(bool on);
+    // Where the axis's marker line stands; the axis minimum until set.
+    double origin() const;
+    void setOrigin(double value); // clears the automatic flag
+    bool isOriginAuto() const { return originAuto_; }
+    void setOriginAuto(bool on);
 
     // Data units between labelled ticks; automatic until set. On a logarithmic axis, decades.
     double labelInterval() const;
@@ -104,6 +109,8 @@ private:
     double max_ = 100;
     bool minAuto_ = true;
     bool maxAuto_ = true;
+    double origin_ = 0;
+    bool originAuto_ = true;
     double labelInterval_ = 10;
     bool labelIntervalAuto_ = true;
     double subGridInterval_ = 0;

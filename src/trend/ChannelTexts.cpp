@@ -42,8 +42,10 @@ QString ChannelValueText(double value, int formatCode) {
     const VbFormat::Separators seps = displaySeps();
     switch (formatCode) {
     case 0: {
-        if (!(std::fabs(value) > 1)) return VbFormat::defaultText(value, seps);
-        const int decimals = ChannelTexts::displayDecimals(VbFormat::defaultText(value, seps));
+        const QString text = VbFormat::defaultText(value, seps);
+        // Below 1E+15 the default text is plain and has the decimals the pattern would give.
+        if (!(std::fabs(value) > 1) || std::fabs(value) < 1E+15) return text;
+        const int decimals = ChannelTexts::displayDecimals(text);
         const QString pattern = decimals > 0
                                     ? QStringLiteral("###0.") + QString(decimals, QLatin1Char('0'))
                                     : QStringLiteral("#######0");

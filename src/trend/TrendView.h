@@ -32,6 +32,7 @@ struct TrendWindowState {
     QString Caption;       // window caption; emptied by a refused load
     int YAxisWidth = 0;    // kept width of Y while the strips stand
     bool TooLarge = false; // the last load was refused for its size
+    QString DateTemp;      // lblDateTemp: date and time of the row a list points the view at
 
     std::function<void()> formResize;      // Form_Resize
     std::function<void()> sidePanels;      // cursor side panels (Part of the cursor logic)

@@ -62,6 +62,7 @@ struct TrendViewState {
     qint16 MarkerViewFlag = 0;
     std::array<qint32, 2> TimeAxisChoice{}; // chosen start and end of the time axis dialog
     std::array<qint16, 4> ViewTail{};
+    qint32 CurrentCircle = 1; // the circle the circular graph shows (360 points a circle)
 
     std::array<TrendLine, kLineCount> Lines;
 

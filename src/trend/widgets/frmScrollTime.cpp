@@ -41,12 +41,23 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include <map>
+
 namespace {
 
 // Fonts of the chart: the language's font at a size that reads well on screen.
 constexpr int kChartPointSize = 9;
 
+std::map<int, frmScrollTime::WindowOpener>& toolbar1Windows() {
+    static std::map<int, frmScrollTime::WindowOpener> openers;
+    return openers;
+}
+
 } // namespace
+
+void frmScrollTime::setToolbar1Window(int number, WindowOpener opener) {
+    toolbar1Windows()[number] = std::move(opener);
+}
 
 frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
     : QWidget(parent), viewNumber_(viewNumber), trend_(std::make_unique<TrendView>(viewNumber)),
@@ -101,6 +112,9 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
     barsLayout->addWidget(findChild<QToolBar*>(QStringLiteral("Toolbar1")));
     barsLayout->addWidget(Toolbar2_);
     barsLayout->addStretch(1);
+    lblDateTemp_ = new QLabel(bars);
+    lblDateTemp_->setObjectName(QStringLiteral("lblDateTemp"));
+    barsLayout->addWidget(lblDateTemp_);
     layout->addWidget(bars);
     layout->addWidget(lblTitle_);
     // The cursor readout stands beside the chart; the user may narrow it.
@@ -146,6 +160,12 @@ void frmScrollTime::buildToolbars() {
     QAction* close = toolbar1->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton),
                                          TrendCaption(MsgId(605), "Close data"));
     connect(close, &QAction::triggered, this, [this] { toolbar1Command(1); });
+    if (toolbar1Windows().count(5)) {
+        QAction* list = toolbar1->addAction(
+            style()->standardIcon(QStyle::SP_FileDialogDetailedView), MsgText(174));
+        list->setObjectName(QStringLiteral("Toolbar1_5"));
+        connect(list, &QAction::triggered, this, [this] { toolbar1Command(5); });
+    }
 
     Toolbar2_ = new QToolBar(this);
     Toolbar2_->setObjectName(QStringLiteral("Toolbar2"));
@@ -241,6 +261,8 @@ bool frmScrollTime::LoadRecording() {
     // The channel series read the store's cells: they go before the reader empties the store,
     // since the window may repaint while the load lets events through.
     trend_->chart().setSeriesCount(0);
+    trend_->chart().axisX().setOriginAuto(true);
+    trend_->window().DateTemp.clear();
     frmProgress progress(this);
     progress.show();
     LoadOptions options;
@@ -295,6 +317,9 @@ void frmScrollTime::toolbar1Command(int number) {
         close();
     } else if (number == 2) {
         Q_EMIT openFilesRequested(viewNumber_);
+    } else if (const auto it = toolbar1Windows().find(number);
+               it != toolbar1Windows().end() && views(viewNumber_).Loaded) {
+        it->second(*this);
     }
 }
 
@@ -361,6 +386,8 @@ void frmScrollTime::syncControls() {
     hsbTrendGraph_->setEnabled(bar.Enabled);
     syncing_ = false;
     setWindowTitle(w.Caption);
+    lblDateTemp_->setText(w.DateTemp);
+    showMarkerLine();
     // The chart's "Title" label is shown by lblTitle above the plot rather than over it.
     if (ChartLabel* title = trend_->chart().labels().item(QStringLiteral("Title"))) {
         lblTitle_->setText(title->Text);
@@ -455,9 +482,22 @@ void frmScrollTime::chartMouseMoved(const QPointF& pixel) {
         markerShown_ = true;
     } else if (markerShown_ && !cursors_->marker().tracking) {
         // Only a shown marker costs a repaint to take away; plain mouse moves cost none.
-        chart_->setCursorLines({});
+        showMarkerLine();
         markerShown_ = false;
     }
+}
+
+// The marker line: the tracking cursor's while a cursor button is on, else at the X origin
+// that a list moved the view to, else none.
+void frmScrollTime::showMarkerLine() {
+    const TrackingMarker& m = cursors_->marker();
+    const ChartAxis& x = trend_->chart().axisX();
+    if (m.tracking)
+        chart_->setCursorLines({{m.x, m.color, m.width}});
+    else if (!x.isOriginAuto())
+        chart_->setCursorLines({{x.origin(), m.color, m.width}});
+    else
+        chart_->setCursorLines({});
 }
 
 void frmScrollTime::chartClicked(Qt::MouseButton button) {

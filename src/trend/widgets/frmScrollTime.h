@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -42,8 +43,12 @@ public:
 
     // Runs a command of Toolbar2 and the chart's popup menu (1, 2, 11, 12, 13).
     void command(int number);
-    // Runs a command of the view's Toolbar1 (1 close data, 2 open files).
+    // Runs a command of the view's Toolbar1 (1 close data, 2 open files, and the windows that
+    // libraries above this one install: 5 the data list ...).
     void toolbar1Command(int number);
+    // Installs the window that a Toolbar1 command opens for a view; set before views are made.
+    using WindowOpener = std::function<void(frmScrollTime& view)>;
+    static void setToolbar1Window(int number, WindowOpener opener);
     // Opens the multi-scale rows of the view (frmMultiScaleSet) and applies them on OK.
     void showMultiScaleSet();
 
@@ -90,6 +95,7 @@ private:
     void showHoverText();
     void followYRange();
     void setAlarmMarksShown(bool on);
+    void showMarkerLine();
 
     int viewNumber_;
     std::unique_ptr<TrendView> trend_;
@@ -102,6 +108,7 @@ private:
     ChartWidget* chart_ = nullptr;
     QWidget* plotArea_ = nullptr;
     QLabel* lblTitle_ = nullptr;
+    QLabel* lblDateTemp_ = nullptr;
     QScrollBar* hsbTrendGraph_ = nullptr;
     QToolBar* Toolbar2_ = nullptr;
     QMenu* popup_ = nullptr;
