@@ -58,3 +58,71 @@ TEST(SampleTimeText, EachUnitAndFraction) {
         EXPECT_EQ(t.dateTime, t.date + QLatin1Char(' ') + t.time);
     }
 }
+
+// With no label interval of the user's, labels fall at round times of the clock for the span on
+// show: a day at 1 s every 3 hours, ten minutes from 10:00:07 at each whole minute, a day at
+// 1 min every 3 hours in the minute form.
+TEST(X_AxisSet, AutomaticLabelsAtRoundTimes) {
+    const struct {
+        const char* name;
+        int points;
+        qint32 interval;
+        qint64 startOfDay; // seconds after midnight of the first sample
+        std::vector<std::pair<double, QString>> labels;
+    } cases[] = {
+        {"day at 1 s",
+         86400,
+         1000,
+         0,
+         {{0, "0:00:00"},
+          {10800, "3:00:00"},
+          {21600, "6:00:00"},
+          {32400, "9:00:00"},
+          {43200, "12:00:00"},
+          {54000, "15:00:00"},
+          {64800, "18:00:00"},
+          {75600, "21:00:00"}}},
+        {"ten minutes from 10:00:07",
+         600,
+         1000,
+         36007,
+         {{53, "10:01:00"},
+          {113, "10:02:00"},
+          {173, "10:03:00"},
+          {233, "10:04:00"},
+          {293, "10:05:00"},
+          {353, "10:06:00"},
+          {413, "10:07:00"},
+          {473, "10:08:00"},
+          {533, "10:09:00"},
+          {593, "10:10:00"}}},
+        {"day at 1 min",
+         1440,
+         60000,
+         0,
+         {{0, "0:00"},
+          {180, "3:00"},
+          {360, "6:00"},
+          {540, "9:00"},
+          {720, "12:00"},
+          {900, "15:00"},
+          {1080, "18:00"},
+          {1260, "21:00"}}},
+    };
+    const QString colon = VbFormat::Separators::system().time;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        makeView(6, {std::vector<qint16>(size_t(c.points), 5)}, 0);
+        views(6).SampleInterval = c.interval;
+        views(6).ViewStart = 86400 * 100 + c.startOfDay;
+        TrendView view(6);
+        ASSERT_TRUE(view.afterLoad());
+        view.zoom().SetDataRange(1, c.points);
+        std::vector<std::pair<double, QString>> labels, expected;
+        for (const ValueLabel& l : view.chart().axisX().valueLabels().items())
+            labels.emplace_back(l.value, l.text);
+        for (const auto& [at, text] : c.labels)
+            expected.emplace_back(at, QString(text).replace(QLatin1Char(':'), colon));
+        EXPECT_EQ(labels, expected);
+    }
+}
