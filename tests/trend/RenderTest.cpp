@@ -82,8 +82,13 @@ TEST(TrendImage, RenderCommand) {
 
 // The date line of a drawn chart stands clear of every axis text, the top Y label included.
 TEST(TrendImage, TitleClearOfTheAxisTexts) {
+    // Percent mode: the top label "1000" stands beside the axis title, near the plot's corner.
     LoadedView v(10, {ramp(600, 0), ramp(600, 400)}, 0, QStringLiteral("0"),
                  QStringLiteral("1000"));
+    v.view.state().ScalePercentMode = true;
+    v.view.plot().CH_DataSet();
+    v.view.chart().axisY().setLabelInterval(10);
+    v.view.scales().Y_AxisSet(false, 1, 1);
     const ChartLabel* title = v.view.chart().labels().item(QStringLiteral("Title"));
     ASSERT_TRUE(title && !title->Text.isEmpty());
     const RenderPlan plan = TrendImage::plan(v.view, QSizeF(640, 360));
