@@ -68,46 +68,15 @@ TEST(X_AxisSet, AutomaticLabelsAtRoundTimes) {
         int points;
         qint32 interval;
         qint64 startOfDay; // seconds after midnight of the first sample
-        std::vector<std::pair<double, QString>> labels;
+        // Labels: count of them, the first one's point, points between them, and the first
+        // one's time with the minutes between labels (the form of the interval's unit).
+        int count, first, step;
+        int hour, minute, minutesApart;
+        bool seconds;
     } cases[] = {
-        {"day at 1 s",
-         86400,
-         1000,
-         0,
-         {{0, "0:00:00"},
-          {10800, "3:00:00"},
-          {21600, "6:00:00"},
-          {32400, "9:00:00"},
-          {43200, "12:00:00"},
-          {54000, "15:00:00"},
-          {64800, "18:00:00"},
-          {75600, "21:00:00"}}},
-        {"ten minutes from 10:00:07",
-         600,
-         1000,
-         36007,
-         {{53, "10:01:00"},
-          {113, "10:02:00"},
-          {173, "10:03:00"},
-          {233, "10:04:00"},
-          {293, "10:05:00"},
-          {353, "10:06:00"},
-          {413, "10:07:00"},
-          {473, "10:08:00"},
-          {533, "10:09:00"},
-          {593, "10:10:00"}}},
-        {"day at 1 min",
-         1440,
-         60000,
-         0,
-         {{0, "0:00"},
-          {180, "3:00"},
-          {360, "6:00"},
-          {540, "9:00"},
-          {720, "12:00"},
-          {900, "15:00"},
-          {1080, "18:00"},
-          {1260, "21:00"}}},
+        {"day at 1 s", 86400, 1000, 0, 8, 0, 10800, 0, 0, 180, true},
+        {"ten minutes from 10:00:07", 600, 1000, 36007, 10, 53, 60, 10, 1, 1, true},
+        {"day at 1 min", 1440, 60000, 0, 8, 0, 180, 0, 0, 180, false},
     };
     const QString colon = VbFormat::Separators::system().time;
     for (const auto& c : cases) {
@@ -121,8 +90,14 @@ TEST(X_AxisSet, AutomaticLabelsAtRoundTimes) {
         std::vector<std::pair<double, QString>> labels, expected;
         for (const ValueLabel& l : view.chart().axisX().valueLabels().items())
             labels.emplace_back(l.value, l.text);
-        for (const auto& [at, text] : c.labels)
-            expected.emplace_back(at, QString(text).replace(QLatin1Char(':'), colon));
+        for (int k = 0; k < c.count; ++k) {
+            const int minutes = c.hour * 60 + c.minute + k * c.minutesApart;
+            QString text = QStringLiteral("%1:%2")
+                               .arg(minutes / 60)
+                               .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+            if (c.seconds) text += QStringLiteral(":00");
+            expected.emplace_back(c.first + k * c.step, text.replace(QLatin1Char(':'), colon));
+        }
         EXPECT_EQ(labels, expected);
     }
 }
