@@ -54,11 +54,14 @@ Scale automatic(double dataMin, double dataMax, bool hasData, bool logarithmic, 
         lo -= room;
         hi += room;
     }
-    double step = niceStep(hi - lo);
+    const double step = niceStep(hi - lo);
+    // The extremes of the data never stand on the frame, where a flat line would vanish: a
+    // bound that falls on a data extreme moves out by one step.
     Scale s{roundDown(lo, step), roundUp(hi, step), step};
-    // Rounding outward may ask for a coarser step; one more pass settles it.
-    const double again = niceStep(s.max - s.min);
-    if (again > step) s = {roundDown(lo, again), roundUp(hi, again), again};
+    if (s.min >= dataMin - step * 1e-9) s.min -= step;
+    if (s.max <= dataMax + step * 1e-9) s.max += step;
+    // The wider range may hold more labels than wanted: coarser labels, the same bounds.
+    s.step = std::max(step, niceStep(s.max - s.min));
     return s;
 }
 

@@ -19,9 +19,10 @@ struct Scale {
 // A step of 1, 2 or 5 times a power of ten that cuts span into at most `intervals` parts.
 double niceStep(double span, int intervals = 10);
 
-// The range of data min..max rounded outward to the label step. With no data, 0..1; a single
-// value gets room around it. On a logarithmic axis the range is whole decades of the positive
-// values. integerSteps keeps the step at whole numbers of at least 1 (a point index axis).
+// The range of data min..max rounded outward to the label step, with the data's extremes
+// always inside (25..75 gives 20..80). With no data, 0..1; a single value gets room around it. On a
+// logarithmic axis the range is whole decades of the positive values. integerSteps keeps the step
+// at whole numbers of at least 1 (a point index axis).
 Scale automatic(double dataMin, double dataMax, bool hasData, bool logarithmic,
                 bool integerSteps = false);
 

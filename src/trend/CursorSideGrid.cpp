@@ -83,8 +83,10 @@ void CursorSideGrid::DataList_disp_check() {
     const ChartModel& chart = v_.chart();
     for (int i = 1; i <= v_.tables().ChannelCount && i <= chart.seriesCount(); ++i) {
         const SeriesStyle& look = chart.seriesStyle(i);
-        grid_.setRowHidden(kFirstChannelRow + i - 1, look.pattern == Chart::LinePattern::None &&
-                                                         look.symbol == Chart::SymbolShape::None);
+        const bool switchedOff =
+            look.pattern == Chart::LinePattern::None && look.symbol == Chart::SymbolShape::None;
+        grid_.setRowHidden(kFirstChannelRow + i - 1,
+                           switchedOff || chart.displayState(i) != Chart::kDisplayShown);
     }
     notify();
 }

@@ -27,7 +27,8 @@ public:
     void refresh();
     // Columns 4..8: the five statistics of each channel between the two cursors, both placed.
     void statistics();
-    // DataList_disp_check: rows of channels switched off in the trend are hidden.
+    // DataList_disp_check: rows of channels switched off in the trend, or left out by the
+    // channel choice, are hidden.
     void DataList_disp_check();
 
     // The tool tip of a cell: for a red value cell of cursor A or B, message 8 or 9, message

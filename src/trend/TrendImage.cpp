@@ -46,7 +46,39 @@ void paintStrips(TrendView& view, QPainter& painter, const QSizeF& size) {
     painter.restore();
 }
 
+// The date line "Title" moves into a strip above the chart while the image is drawn, as the
+// window shows it above its chart: a label over the plot's corner would cover the top Y label.
+class TitleAboveChart {
+public:
+    explicit TitleAboveChart(ChartModel& chart) : chart_(chart), kept_(chart.header()) {
+        title_ = chart.labels().item(QStringLiteral("Title"));
+        if (!title_ || !title_->IsShown || title_->Text.isEmpty()) {
+            title_ = nullptr;
+            return;
+        }
+        ChartTitle& header = chart.header();
+        header.IsShown = true;
+        header.Text = title_->Text;
+        header.Font = title_->Font;
+        header.ForegroundColor = title_->Interior.ForegroundColor;
+        title_->IsShown = false;
+    }
+    ~TitleAboveChart() {
+        if (!title_) return;
+        title_->IsShown = true;
+        chart_.header() = kept_;
+    }
+    TitleAboveChart(const TitleAboveChart&) = delete;
+    TitleAboveChart& operator=(const TitleAboveChart&) = delete;
+
+private:
+    ChartModel& chart_;
+    ChartTitle kept_;
+    ChartLabel* title_ = nullptr;
+};
+
 void paintChart(TrendView& view, QPainter& painter, const QSizeF& size) {
+    const TitleAboveChart title(view.chart());
     ChartRenderer::render(view.chart(), painter, size);
     paintStrips(view, painter, size);
 }
@@ -54,6 +86,11 @@ void paintChart(TrendView& view, QPainter& painter, const QSizeF& size) {
 } // namespace
 
 namespace TrendImage {
+
+RenderPlan plan(TrendView& view, const QSizeF& size) {
+    const TitleAboveChart title(view.chart());
+    return ChartRenderer::prepare(view.chart(), size);
+}
 
 bool save(TrendView& view, const QString& path, const QSize& size) {
     if (size.isEmpty()) return false;

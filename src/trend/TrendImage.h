@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/RenderPlan.h"
+
 #include <QSize>
 #include <QString>
 
@@ -11,5 +13,8 @@ namespace TrendImage {
 
 // Chosen by the file name's extension; false when the file cannot be written.
 bool save(TrendView& view, const QString& path, const QSize& size);
+
+// What save() draws of the chart for a size (the strips aside), with screen metrics.
+RenderPlan plan(TrendView& view, const QSizeF& size);
 
 } // namespace TrendImage

@@ -1,5 +1,6 @@
 #include "trend/TrendPlot.h"
 
+#include "base/LanguageTable.h"
 #include "base/Progress.h"
 #include "base/ShowMsg.h"
 #include "base/WinColor.h"
@@ -8,6 +9,7 @@
 #include "trend/PlotValue.h"
 #include "trend/TrendView.h"
 
+#include <algorithm>
 #include <new>
 
 namespace {
@@ -204,9 +206,30 @@ void TrendPlot::selectChannel(int item) {
         chart.setDisplayState(s, item == 0 || s == item ? Chart::kDisplayShown
                                                         : Chart::kDisplayHidden);
     v_.scales().Y_AxisSet(false, item == 0 ? 1 : item, 1);
+    TrendView::call(v_.window().dataListDispCheck);
     TrendView::call(v_.window().legendMarks);
     TrendView::call(v_.window().formResize);
     chart.setIsBatched(false);
+}
+
+QStringList TrendPlot::channelChoiceItems() const {
+    QStringList items{MsgText(91)};
+    const ViewState& t = v_.tables();
+    for (int c = 1; c <= t.ChannelCount; ++c)
+        items << QStringLiteral("%1: %2").arg(c).arg(t.Channels.ChTag[size_t(c)].trimmed());
+    return items;
+}
+
+int TrendPlot::shownChannelItem() const {
+    const ChartModel& chart = v_.chart();
+    const int c = std::min<int>(v_.tables().ChannelCount, chart.seriesCount());
+    int shown = 0, count = 0;
+    for (int s = 1; s <= c; ++s) {
+        if (chart.displayState(s) != Chart::kDisplayShown) continue;
+        shown = s;
+        ++count;
+    }
+    return count == 1 && c > 1 ? shown : 0;
 }
 
 bool TrendPlot::channelsNeedPercent() const {

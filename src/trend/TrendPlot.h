@@ -2,6 +2,7 @@
 
 #include "trend/TrendViewState.h"
 
+#include <QStringList>
 #include <QtGlobal>
 
 #include <vector>
@@ -37,6 +38,10 @@ public:
 
     // cbxSelectCH: item 0 shows every channel, item k channel k alone.
     void selectChannel(int item);
+    // The items of cbxSelectCH: every channel, then each channel by its tag.
+    QStringList channelChoiceItems() const;
+    // The item that stands for what the chart shows: k when channel k is alone, else 0.
+    int shownChannelItem() const;
 
     // The mode a view takes from its channels when no saved setting forces it: false on a
     // logarithmic Y or when every channel has the scale of channel 1.

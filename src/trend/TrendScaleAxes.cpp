@@ -46,9 +46,10 @@ void TrendScaleAxes::Y_AxisSet(bool keepFormat, int channel, int axis) {
     TrendViewState& st = v_.state();
     ChartModel& chart = v_.chart();
     if (!st.ScalePercentMode) {
+        // Plain numbers with the decimals of channel 1, whatever the step.
         if (chart.axisY().isMinAuto() && chart.axisY().isMaxAuto()) {
             chart.axisY().setLabelMethod(Chart::LabelMethod::Values);
-            chart.axisY().setPrecision(-1);
+            chart.axisY().setPrecision(st.Lines[1].decimals);
         }
         return;
     }

@@ -7,7 +7,9 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
 
 namespace {
@@ -33,6 +35,39 @@ QString fraction(int remainder, qint32 interval, const VbFormat::Separators& sep
 
 QString dateOf(qint64 seconds, const VbFormat::Separators& seps) {
     return VbFormat::formatSeconds(seconds, clsCommon::shared().GetLongDateFormat(-1), seps);
+}
+
+// Steps of automatic time labels in milliseconds, finest first; beyond the table the last one
+// doubles.
+constexpr qint64 kRoundSteps[] = {
+    1,        2,         5,           10,          20,           50,           100,
+    200,      500,       1000,        2000,        5000,         10000,        15000,
+    30000,    kMinute,   2 * kMinute, 5 * kMinute, 10 * kMinute, 15 * kMinute, 30 * kMinute,
+    kHour,    2 * kHour, 3 * kHour,   6 * kHour,   12 * kHour,   kDay,         2 * kDay,
+    7 * kDay, 14 * kDay, 28 * kDay};
+// Automatic labels leave at most this many spaces across the span on show.
+constexpr int kLabelSpaces = 10;
+
+// The finest round time step that is a whole number of samples and leaves at most
+// kLabelSpaces spaces over `span` points; 0 when no round step is a whole number of samples.
+qint64 roundTimeStep(qint64 interval, double span) {
+    if (interval <= 0) return 0;
+    const double wanted = span * double(interval) / kLabelSpaces;
+    qint64 t = 0;
+    for (size_t k = 0; t < qint64(1) << 50; ++k) {
+        t = k < std::size(kRoundSteps) ? kRoundSteps[k] : t * 2;
+        if (t >= interval && t % interval == 0 && double(t) >= wanted) return t / interval;
+    }
+    return 0;
+}
+
+// Points from the first sample to the first one at a round time of `step` points: a whole
+// multiple of the step since midnight (a step of a day or more counts from the first midnight).
+qint64 roundTimePhase(qint64 step, qint64 interval, qint64 start, int startMsec) {
+    const qint64 stepMs = std::min(step * interval, kDay);
+    const qint64 sinceMidnight = (start % 86400 + 86400) % 86400 * 1000 + startMsec;
+    const qint64 toRound = (stepMs - sinceMidnight % stepMs) % stepMs;
+    return (toRound + interval - 1) / interval % step;
 }
 
 } // namespace
@@ -144,20 +179,27 @@ void TrendTimeAxis::X_AxisSet(bool labelsWanted) {
     ChartAxis& x = chart.axisX();
     const qint64 interval = st.TimeLabelInterval[0];
     const qint64 sub = st.TimeLabelInterval[1];
-    qint64 step = 1;
-    if (interval > 0)
-        step = sub > 0 ? std::gcd(interval, sub) : interval;
-    else if (x.labelInterval() != Chart::kHoleValue && x.labelInterval() > 1)
-        step = qint64(x.labelInterval());
-    const qint64 labelStep = interval > 0 ? interval : step;
     const double shownMin = x.min(), shownMax = x.max();
+    const ViewState& t = v_.tables();
+    qint64 step = 1, phase = 0;
+    if (interval > 0) {
+        step = sub > 0 ? std::gcd(interval, sub) : interval;
+    } else if (const qint64 roundStep = roundTimeStep(t.SampleInterval, shownMax - shownMin)) {
+        // Without an interval of the user's, labels fall at round times of the clock.
+        step = roundStep;
+        phase = roundTimePhase(step, t.SampleInterval, t.ViewStart, t.ViewStartMsec);
+    } else if (x.labelInterval() != Chart::kHoleValue && x.labelInterval() > 1) {
+        step = qint64(x.labelInterval());
+    }
+    const qint64 labelStep = interval > 0 ? interval : step;
     x.setLabelMethod(Chart::LabelMethod::ValueLabels);
     x.valueLabels().clear();
     const VbFormat::Separators seps = VbFormat::Separators::system();
     const QString dayPattern = QStringLiteral("mm/dd");
-    qint64 i = std::max<qint64>(0, qint64(std::ceil(shownMin / double(step))) * step);
+    qint64 i =
+        phase + std::max<qint64>(0, qint64(std::ceil((shownMin - phase) / double(step)))) * step;
     for (; i <= n - 1 && double(i) <= shownMax; i += step) {
-        if (i % labelStep == 0) {
+        if ((i - phase) % labelStep == 0) {
             const SampleTime here = SampleTimeText(i, v_.GetGroup());
             QString text = here.time;
             const bool nextDiffers = i + labelStep <= n - 1 &&

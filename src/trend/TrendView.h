@@ -40,6 +40,8 @@ struct TrendWindowState {
     std::function<void()> legendMarks;     // legend marks of the channel list
     std::function<void()> beep;            // a refused zoom band
     std::function<void()> multiScaleDrawn; // strips recomputed (TrendScaleAxes::strips())
+    // DataList_disp_check: which channels are shown, to the side grid.
+    std::function<void()> dataListDispCheck;
 };
 
 // The trend logic of one view (1..10): what the window, the CLI and the tests drive. It owns the

@@ -12,7 +12,7 @@ TEST(AxisScale, NiceStepIsOneTwoOrFiveTimesAPowerOfTen) {
     for (const auto& c : cases) EXPECT_DOUBLE_EQ(AxisScale::niceStep(c.span), c.step) << c.span;
 }
 
-TEST(AxisScale, AutomaticRangeIsRoundedOutwardToTheStep) {
+TEST(AxisScale, AutomaticRangeIsRoundedOutwardWithTheDataInside) {
     const struct {
         const char* name;
         double lo, hi;
@@ -21,6 +21,10 @@ TEST(AxisScale, AutomaticRangeIsRoundedOutwardToTheStep) {
     } cases[] = {
         {"plain", 0.2, 7.3, true, false, false, 0, 8, 1},
         {"negative start", -3.2, 47, true, false, false, -10, 50, 10},
+        // Extremes on round values move out by a step, so that flat lines stay in sight.
+        {"round extremes", 25, 75, true, false, false, 20, 80, 10},
+        {"from zero", 0, 100, true, false, false, -10, 110, 20},
+        {"negative round", -50, -20, true, false, false, -55, -15, 5},
         {"single value", 5, 5, true, false, false, 4.5, 5.5, 0.1},
         {"zero", 0, 0, true, false, false, -1, 1, 0.2},
         {"no data", 0, 0, false, false, false, 0, 1, 0.1},

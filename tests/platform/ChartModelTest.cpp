@@ -34,7 +34,7 @@ TEST(ChartModel, SourcedSeriesReadsThroughTheSourceWithSparseOverrides) {
     EXPECT_EQ(model.Maximum(1), 2);
     model.setY(1, 2, 9);
     EXPECT_EQ(model.Maximum(1), 9); // statistics and range follow the change
-    EXPECT_EQ(model.axisY().max(), 9);
+    EXPECT_EQ(model.axisY().max(), 10); // the maximum 9 stays inside the frame
     // A point count set on a sourced series leaves a stored series of holes.
     model.setPointCount(1, 2);
     EXPECT_EQ(model.Y(1, 1), H);
@@ -83,15 +83,15 @@ TEST(ChartModel, AutomaticRangeTakesShownSeriesWithoutHoles) {
     EXPECT_EQ(model.axisY().labelInterval(), 1);
     EXPECT_EQ(model.axisX().max(), 3);
     model.setDisplayState(2, Chart::kDisplayShown);
-    EXPECT_EQ(model.axisY().max(), 200);
-    EXPECT_EQ(model.axisY2().max(), 200); // Y2 follows Y until it is set
+    EXPECT_EQ(model.axisY().max(), 220); // 200 is not left on the frame
+    EXPECT_EQ(model.axisY2().max(), 220); // Y2 follows Y until it is set
     model.axisY().setMax(50);
     EXPECT_FALSE(model.axisY().isMaxAuto());
     EXPECT_EQ(model.axisY().labelInterval(), 5);
     model.axisY().setLabelInterval(7);
     EXPECT_EQ(model.axisY().labelInterval(), 7);
     model.axisY().setMaxAuto(true);
-    EXPECT_EQ(model.axisY().max(), 200);
+    EXPECT_EQ(model.axisY().max(), 220);
     // Logarithmic: whole decades of the positive values.
     model.setSeriesValues(1, {-1, 0, 3, 450});
     model.setSeriesCount(1);

@@ -51,7 +51,7 @@ TEST(TrendImage, RenderCommand) {
     QTemporaryDir dir;
     const QString vxf = dir.filePath(QStringLiteral("a.vxf"));
     // Two hours at 10 s: a first hour at 30.0 and a second one at 70.0; the ends make the
-    // automatic range 0..100.
+    // automatic range -10..110 (the extremes kept off the frame).
     ASSERT_TRUE(fixtures::writeFile(
         vxf, fixtures::buildVxf(fixtures::simpleVxf(1, 720, 0, 100, [](int row, int) {
             if (row <= 10 || row > 710) return qint16(row <= 10 ? 0 : 1000);
@@ -71,10 +71,34 @@ TEST(TrendImage, RenderCommand) {
     const auto left = redIn(image, 0, 149), right = redIn(image, 251, 399);
     ASSERT_GT(left.first, 20);
     ASSERT_GT(right.first, 20);
-    EXPECT_GT(left.second, right.second + 100);
+    // 40 of 120 units on a plot of some 215 rows: about 70 rows apart.
+    EXPECT_GT(left.second, right.second + 60);
 
     run.start(program, common + QStringList{"big"});
     ASSERT_TRUE(run.waitForFinished(30000));
     EXPECT_NE(run.exitCode(), 0);
     EXPECT_FALSE(run.readAllStandardError().isEmpty());
+}
+
+// The date line of a drawn chart stands clear of every axis text, the top Y label included.
+TEST(TrendImage, TitleClearOfTheAxisTexts) {
+    // Percent mode: the top label "1000" stands beside the axis title, near the plot's corner.
+    LoadedView v(10, {ramp(600, 0), ramp(600, 400)}, 0, QStringLiteral("0"),
+                 QStringLiteral("1000"));
+    v.view.state().ScalePercentMode = true;
+    v.view.plot().CH_DataSet();
+    v.view.chart().axisY().setLabelInterval(10);
+    v.view.scales().Y_AxisSet(false, 1, 1);
+    const ChartLabel* title = v.view.chart().labels().item(QStringLiteral("Title"));
+    ASSERT_TRUE(title && !title->Text.isEmpty());
+    const RenderPlan plan = TrendImage::plan(v.view, QSizeF(640, 360));
+    std::vector<QRectF> titles, others;
+    for (const RenderPlan::Text& t : plan.texts) {
+        if (t.text.isEmpty()) continue;
+        (t.text == title->Text ? titles : others).push_back(t.rect.translated(t.origin));
+    }
+    ASSERT_EQ(titles.size(), 1u);
+    ASSERT_GT(others.size(), 4u);
+    for (const QRectF& r : others) EXPECT_FALSE(titles[0].intersects(r)) << r.top() << r.left();
+    EXPECT_TRUE(title->IsShown) << "the model is left as it was";
 }

@@ -1,4 +1,5 @@
 #include "TrendFixture.h"
+#include "platform/AxisScale.h"
 
 #include <gtest/gtest.h>
 
@@ -96,4 +97,27 @@ TEST(MultiScale, StripsTakeFirstFourAndFollowZoom) {
     EXPECT_NEAR(ticks.front().y, 200, 1e-9);
     const auto reversed = TrendScaleAxes::stripTicks(0, 1000, 40, 60, true, 200);
     EXPECT_NEAR(reversed.front().y, 0, 1e-9) << "a reversed axis draws from the top";
+}
+
+// Engineering mode: automatic Y labels are plain numbers with the decimals of channel 1, also
+// where the step alone would ask for fewer or more.
+TEST(YAxisSet, EngineeringLabelsTakeTheDecimalsOfChannelOne) {
+    const struct {
+        QString low, high;
+        std::vector<qint16> raw; // cells of both channels, in units of the decimals
+        int decimals;
+        std::vector<QString> texts;
+    } cases[] = {
+        {"0.00", "1.00", {25, 75}, 2, {"0.20", "0.30", "0.40", "0.50", "0.60", "0.70", "0.80"}},
+        {"0.0", "100.0", {250, 750}, 1, {"20.0", "30.0", "40.0", "50.0", "60.0", "70.0", "80.0"}},
+    };
+    for (const auto& c : cases) {
+        LoadedView v(9, {c.raw, c.raw}, c.decimals, c.low, c.high);
+        v.view.scales().Y_AxisSet(false, 1, 1);
+        const ChartAxis& y = v.view.chart().axisY();
+        std::vector<QString> texts;
+        for (const AxisScale::Tick& t : AxisScale::ticks(y, y.min(), y.max(), y.labelInterval()))
+            if (t.major) texts.push_back(t.text);
+        EXPECT_EQ(texts, c.texts) << c.low.toStdString();
+    }
 }

@@ -58,3 +58,46 @@ TEST(SampleTimeText, EachUnitAndFraction) {
         EXPECT_EQ(t.dateTime, t.date + QLatin1Char(' ') + t.time);
     }
 }
+
+// With no label interval of the user's, labels fall at round times of the clock for the span on
+// show: a day at 1 s every 3 hours, ten minutes from 10:00:07 at each whole minute, a day at
+// 1 min every 3 hours in the minute form.
+TEST(X_AxisSet, AutomaticLabelsAtRoundTimes) {
+    const struct {
+        const char* name;
+        int points;
+        qint32 interval;
+        qint64 startOfDay; // seconds after midnight of the first sample
+        // Labels: count of them, the first one's point, points between them, and the first
+        // one's time with the minutes between labels (the form of the interval's unit).
+        int count, first, step;
+        int hour, minute, minutesApart;
+        bool seconds;
+    } cases[] = {
+        {"day at 1 s", 86400, 1000, 0, 8, 0, 10800, 0, 0, 180, true},
+        {"ten minutes from 10:00:07", 600, 1000, 36007, 10, 53, 60, 10, 1, 1, true},
+        {"day at 1 min", 1440, 60000, 0, 8, 0, 180, 0, 0, 180, false},
+    };
+    const QString colon = VbFormat::Separators::system().time;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        makeView(6, {std::vector<qint16>(size_t(c.points), 5)}, 0);
+        views(6).SampleInterval = c.interval;
+        views(6).ViewStart = 86400 * 100 + c.startOfDay;
+        TrendView view(6);
+        ASSERT_TRUE(view.afterLoad());
+        view.zoom().SetDataRange(1, c.points);
+        std::vector<std::pair<double, QString>> labels, expected;
+        for (const ValueLabel& l : view.chart().axisX().valueLabels().items())
+            labels.emplace_back(l.value, l.text);
+        for (int k = 0; k < c.count; ++k) {
+            const int minutes = c.hour * 60 + c.minute + k * c.minutesApart;
+            QString text = QStringLiteral("%1:%2")
+                               .arg(minutes / 60)
+                               .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+            if (c.seconds) text += QStringLiteral(":00");
+            expected.emplace_back(c.first + k * c.step, text.replace(QLatin1Char(':'), colon));
+        }
+        EXPECT_EQ(labels, expected);
+    }
+}

@@ -54,6 +54,22 @@ TEST(TrendPlot, PercentModeAndChannelChoice) {
     EXPECT_EQ(view.chart().displayState(2), Chart::kDisplayShown);
 }
 
+// Flat lines on round values stand inside the automatic Y range, which zoom level 0 keeps and
+// the whole-recording command brings back.
+TEST(TrendPlot, AutomaticYRangeKeepsFlatLinesOffTheFrame) {
+    LoadedView v(4, {{250, 250, 250}, {750, 750, 750}}, 1, QStringLiteral("0.0"),
+                 QStringLiteral("100.0"));
+    TrendView& view = v.view;
+    EXPECT_EQ(view.chart().axisY().min(), 20);
+    EXPECT_EQ(view.chart().axisY().max(), 80);
+    EXPECT_EQ(view.state().ZoomY[0][1], 20);
+    EXPECT_EQ(view.state().ZoomY[0][2], 80);
+    view.scales().setYRange(30, 40);
+    view.zoom().SetZoom(0);
+    EXPECT_EQ(view.chart().axisY().min(), 20);
+    EXPECT_EQ(view.chart().axisY().max(), 80);
+}
+
 // At 3,600,000 points the view refuses the recording without a message; one point fewer loads.
 TEST(TrendPlot, RefusesFromMaximumAlarmCount) {
     RecordingMessageSink sink;

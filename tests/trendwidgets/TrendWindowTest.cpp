@@ -1,9 +1,13 @@
 #include "TrendWindowFixture.h"
+#include "base/LanguageTable.h"
+#include "trend/widgets/SideGridView.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QImage>
 #include <QMenu>
 #include <QScrollBar>
+#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -172,4 +176,67 @@ TEST(frmScrollTime, CursorButtonPlacesCursorAByAClick) {
     for (int row = 1; row <= grid.rowCount(); ++row)
         anyValue = anyValue || !grid.text(row, 1).isEmpty();
     EXPECT_TRUE(anyValue);
+}
+
+// The channel choice on the tool bar: every channel, or one alone on an automatic Y that fits
+// it; the side grid shows the rows of the channels on show.
+TEST(frmScrollTime, ChannelChoiceShowsOneChannelAlone) {
+    LoadedWindow w(7, 3);
+    ASSERT_TRUE(w.loaded);
+    QComboBox* choice = w.window->cbxSelectCH();
+    ASSERT_NE(choice, nullptr);
+    ASSERT_TRUE(w.window->Toolbar2()->isAncestorOf(choice));
+    EXPECT_TRUE(choice->isEnabled());
+    EXPECT_EQ(choice->count(), 4);
+    EXPECT_EQ(choice->itemText(0), MsgText(91));
+    EXPECT_EQ(choice->currentIndex(), 0);
+    ChartModel& chart = w.trend().chart();
+    // Channel 1 runs 0.0..9.9, so all channels together need more than channel 2's flat 5.0.
+    EXPECT_LT(chart.axisY().min(), 0);
+
+    Q_EMIT choice->activated(2);
+    EXPECT_EQ(choice->currentIndex(), 2);
+    const std::vector<int> alone = {chart.displayState(1), chart.displayState(2),
+                                    chart.displayState(3)};
+    EXPECT_EQ(alone, (std::vector<int>{Chart::kDisplayHidden, Chart::kDisplayShown,
+                                       Chart::kDisplayHidden}));
+    EXPECT_TRUE(chart.axisY().isMinAuto() && chart.axisY().isMaxAuto());
+    ASSERT_EQ(chart.Y(2, 1), 5.0) << "raw 50 with one decimal";
+    EXPECT_EQ(chart.axisY().min(), 4.5);
+    EXPECT_EQ(chart.axisY().max(), 5.5);
+    const ReadoutGrid& grid = w.window->cursors().sideGrid().grid();
+    EXPECT_TRUE(grid.isRowHidden(3)) << "channel 1";
+    EXPECT_FALSE(grid.isRowHidden(4)) << "channel 2";
+    EXPECT_TRUE(w.window->sideGrid()->isRowHidden(2));
+
+    Q_EMIT choice->activated(0);
+    EXPECT_EQ(choice->currentIndex(), 0);
+    for (int s = 1; s <= 3; ++s) EXPECT_EQ(chart.displayState(s), Chart::kDisplayShown) << s;
+    EXPECT_FALSE(grid.isRowHidden(3));
+    EXPECT_LT(chart.axisY().min(), 0);
+}
+
+// With both cursors placed, the readout beside the chart shows A, B and A-B whole in a window
+// 1280 pixels wide.
+TEST(frmScrollTime, ReadoutShowsBothCursorsAndTheDifference) {
+    LoadedWindow w(8);
+    ASSERT_TRUE(w.loaded);
+    w.window->resize(1280, 800);
+    QApplication::processEvents();
+    for (const auto& [button, at] : {std::pair{6, 0.3}, std::pair{7, 0.7}}) {
+        w.window->command(button);
+        const QPointF pixel(w.plot().left() + w.plot().width() * at, w.plot().center().y());
+        w.mouse(QEvent::MouseMove, Qt::NoButton, pixel);
+        w.mouse(QEvent::MouseButtonPress, Qt::LeftButton, pixel);
+        w.mouse(QEvent::MouseButtonRelease, Qt::LeftButton, pixel);
+    }
+    ASSERT_GT(w.trend().state().CursorPoint[0], 0);
+    ASSERT_GT(w.trend().state().CursorPoint[1], 0);
+    QApplication::processEvents();
+    SideGridView* grid = w.window->sideGrid();
+    for (int column = 0; column < 3; ++column) {
+        const int left = grid->columnViewportPosition(column);
+        EXPECT_GE(left, 0) << column;
+        EXPECT_LE(left + grid->columnWidth(column), grid->viewport()->width()) << column;
+    }
 }

@@ -6,6 +6,9 @@
 #include <QAbstractTableModel>
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
 
 // The grid's cells as a Qt model: row 0 and column 0 of the readout grid are the headers.
 class SideGridModel : public QAbstractTableModel {
@@ -80,4 +83,13 @@ void SideGridView::refresh() {
     for (int c = 1; c <= g.columnCount(); ++c)
         setColumnWidth(c - 1, g.columnWidth(c) * charWidth + kMargins);
     for (int r = 1; r <= g.rowCount(); ++r) setRowHidden(r - 1, g.isRowHidden(r));
+}
+
+int SideGridView::widthForColumns(int columns) const {
+    const QHeaderView* rows = verticalHeader();
+    int width = 2 * frameWidth() +
+                std::max({rows->width(), rows->minimumWidth(), rows->sizeHint().width()});
+    for (int c = 0; c < columns && c < model()->columnCount(); ++c) width += columnWidth(c);
+    // Room for the vertical scroll bar of a view with many channels.
+    return width + verticalScrollBar()->sizeHint().width();
 }

@@ -16,6 +16,8 @@ public:
 
     // Takes the grid's contents, widths and hidden rows again.
     void refresh();
+    // Pixels that show the row headers and the first `columns` columns whole.
+    int widthForColumns(int columns) const;
 
 private:
     CursorSideGrid& grid_;

@@ -27,6 +27,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
@@ -41,6 +42,7 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -183,6 +185,8 @@ void frmScrollTime::buildToolbars() {
         Toolbar2_->addAction(cursor);
     }
 
+    buildChannelChoice();
+
     popup_ = new QMenu(this);
     popup_->setObjectName(QStringLiteral("PopupMenu"));
     for (int number : {1, 2, 0, 6, 7, 0, 12, 13, 11}) {
@@ -242,6 +246,7 @@ void frmScrollTime::setHooks() {
     };
     w.titleRolaction = [] {};
     w.legendMarks = [] {};
+    w.dataListDispCheck = [this] { cursors_->sideGrid().DataList_disp_check(); };
 }
 
 QAction* frmScrollTime::toolbar2Action(int number) const {
@@ -388,6 +393,7 @@ void frmScrollTime::syncControls() {
     setWindowTitle(w.Caption);
     lblDateTemp_->setText(w.DateTemp);
     showMarkerLine();
+    syncChannelChoice();
     // The chart's "Title" label is shown by lblTitle above the plot rather than over it.
     if (ChartLabel* title = trend_->chart().labels().item(QStringLiteral("Title"))) {
         lblTitle_->setText(title->Text);
@@ -502,7 +508,10 @@ void frmScrollTime::showMarkerLine() {
 
 void frmScrollTime::chartClicked(Qt::MouseButton button) {
     if (button != Qt::LeftButton || cursors_->activeCursor() == 0) return;
-    if (cursors_->click(chart_->chartGeometry())) sideGrid_->refresh();
+    if (cursors_->click(chart_->chartGeometry())) {
+        sideGrid_->refresh();
+        fitSideGrid();
+    }
 }
 
 void frmScrollTime::showHoverText() {
@@ -527,4 +536,52 @@ void frmScrollTime::setAlarmMarksShown(bool on) {
     marks.clear();
     if (on) marks.draw();
     if (alarmMarks_->isChecked() != on) alarmMarks_->setChecked(on);
+}
+
+// cbxSelectCH after the cursor buttons: "TAG" and every channel, or one channel alone.
+void frmScrollTime::buildChannelChoice() {
+    Toolbar2_->addSeparator();
+    lblSelectCH_ = new QLabel(Toolbar2_);
+    lblSelectCH_->setContentsMargins(4, 0, 4, 0);
+    Toolbar2_->addWidget(lblSelectCH_);
+    cbxSelectCH_ = new QComboBox(Toolbar2_);
+    cbxSelectCH_->setObjectName(QStringLiteral("cbxSelectCH"));
+    cbxSelectCH_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    cbxSelectCH_->setMinimumContentsLength(12);
+    Toolbar2_->addWidget(cbxSelectCH_);
+    connect(cbxSelectCH_, &QComboBox::activated, this, [this](int item) {
+        trend_->plot().selectChannel(item);
+        followYRange();
+        syncControls();
+    });
+}
+
+// The choice shows the view's channels and what the chart shows of them.
+void frmScrollTime::syncChannelChoice() {
+    const QStringList items = trend_->plot().channelChoiceItems();
+    QStringList now;
+    for (int i = 0; i < cbxSelectCH_->count(); ++i) now << cbxSelectCH_->itemText(i);
+    const QSignalBlocker quiet(cbxSelectCH_);
+    if (now != items) {
+        cbxSelectCH_->clear();
+        cbxSelectCH_->addItems(items);
+    }
+    cbxSelectCH_->setCurrentIndex(trend_->plot().shownChannelItem());
+    cbxSelectCH_->setEnabled(views(viewNumber_).Loaded && items.size() > 1);
+    lblSelectCH_->setText(trend_->window().SelectCaption);
+}
+
+// With both cursors placed the readout pane widens to show A, B and A-B whole; the splitter
+// may narrow it again.
+void frmScrollTime::fitSideGrid() {
+    const TrendViewState& st = trend_->state();
+    auto* split = qobject_cast<QSplitter*>(sideGrid_->parentWidget());
+    if (!split || st.CursorPoint[0] <= 0 || st.CursorPoint[1] <= 0) return;
+    QList<int> sizes = split->sizes();
+    const int want = sideGrid_->widthForColumns(3);
+    if (sizes.size() != 2 || sizes[1] >= want) return;
+    const int total = sizes[0] + sizes[1];
+    sizes[1] = std::min(want, total / 2); // the chart keeps at least half
+    sizes[0] = total - sizes[1];
+    split->setSizes(sizes);
 }

@@ -11,6 +11,7 @@
 class ChartWidget;
 class MultiScaleStripWidget;
 class QAction;
+class QComboBox;
 class QLabel;
 class QMenu;
 class QMenuBar;
@@ -55,6 +56,8 @@ public:
     ChartWidget* chartWidget() const { return chart_; }
     QScrollBar* hsbTrendGraph() const { return hsbTrendGraph_; }
     QToolBar* Toolbar2() const { return Toolbar2_; }
+    // The channel choice on Toolbar2: all channels, or one alone.
+    QComboBox* cbxSelectCH() const { return cbxSelectCH_; }
     // The action of a Toolbar2 command; null for a command the bar does not carry.
     QAction* toolbar2Action(int number) const;
     // The chart's popup menu, as it stands now.
@@ -96,6 +99,9 @@ private:
     void followYRange();
     void setAlarmMarksShown(bool on);
     void showMarkerLine();
+    void buildChannelChoice();
+    void syncChannelChoice();
+    void fitSideGrid();
 
     int viewNumber_;
     std::unique_ptr<TrendView> trend_;
@@ -111,6 +117,8 @@ private:
     QLabel* lblDateTemp_ = nullptr;
     QScrollBar* hsbTrendGraph_ = nullptr;
     QToolBar* Toolbar2_ = nullptr;
+    QLabel* lblSelectCH_ = nullptr;
+    QComboBox* cbxSelectCH_ = nullptr;
     QMenu* popup_ = nullptr;
     TrendMouseBand* band_ = nullptr;
     std::array<QAction*, 23> commands_{};
