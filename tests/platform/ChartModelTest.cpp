@@ -33,7 +33,7 @@ TEST(ChartModel, SourcedSeriesReadsThroughTheSourceWithSparseOverrides) {
     EXPECT_EQ(model.Y(1, 3), H);
     EXPECT_EQ(model.Maximum(1), 2);
     model.setY(1, 2, 9);
-    EXPECT_EQ(model.Maximum(1), 9); // statistics and range follow the change
+    EXPECT_EQ(model.Maximum(1), 9);     // statistics and range follow the change
     EXPECT_EQ(model.axisY().max(), 10); // the maximum 9 stays inside the frame
     // A point count set on a sourced series leaves a stored series of holes.
     model.setPointCount(1, 2);
@@ -83,7 +83,7 @@ TEST(ChartModel, AutomaticRangeTakesShownSeriesWithoutHoles) {
     EXPECT_EQ(model.axisY().labelInterval(), 1);
     EXPECT_EQ(model.axisX().max(), 3);
     model.setDisplayState(2, Chart::kDisplayShown);
-    EXPECT_EQ(model.axisY().max(), 220); // 200 is not left on the frame
+    EXPECT_EQ(model.axisY().max(), 220);  // 200 is not left on the frame
     EXPECT_EQ(model.axisY2().max(), 220); // Y2 follows Y until it is set
     model.axisY().setMax(50);
     EXPECT_FALSE(model.axisY().isMaxAuto());
