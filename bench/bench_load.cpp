@@ -10,6 +10,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <sys/resource.h>
 
 namespace {
@@ -42,8 +43,11 @@ BENCHMARK(BM_LoadRecording)->Unit(benchmark::kMillisecond)->UseRealTime()->Itera
 
 int main(int argc, char** argv) {
     const QString dir = qEnvironmentVariable("RECVIEW_BENCH_DIR", BenchFiles::defaultDir());
+    // --generate [ROWS]: writes the recording (of ROWS rows) if needed and prints its paths.
     if (argc > 1 && QLatin1String(argv[1]) == QLatin1String("--generate")) {
-        for (const QString& f : BenchFiles::ensureRecording(dir))
+        const int rows = argc > 2 ? std::atoi(argv[2]) : BenchFiles::kRows;
+        for (const QString& f :
+             BenchFiles::ensureRecording(dir, rows > 0 ? rows : BenchFiles::kRows))
             std::printf("%s\n", qPrintable(f));
         return 0;
     }

@@ -27,6 +27,9 @@ public:
     // --- Files and paths
     static bool FileExists(const QString& path);
     static bool DirExists(const QString& path);
+    // Makes an absolute folder and every missing level above it; a network path ("//server/
+    // share/...") only below its share, which must exist. True when the folder exists after.
+    static bool makeDir(const QString& path);
     static QString getFileTitle(const QString& path); // "a/b.vxf" -> "b.vxf"
     // The size as text, with the locale's digit grouping when `grouped`; "" on a failure.
     static QString getFileSize(const QString& path, bool grouped);

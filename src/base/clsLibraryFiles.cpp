@@ -41,6 +41,18 @@ bool clsLibrary::DirExists(const QString& path) {
     return ::DirExists(path);
 }
 
+bool clsLibrary::makeDir(const QString& path) {
+    if (!QDir::isAbsolutePath(path)) return false;
+    if (::DirExists(path)) return true;
+    if (path.startsWith(QLatin1String("//"))) {
+        const QStringList parts = path.mid(2).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+        if (parts.size() < 2) return false;
+        const QString share = QStringLiteral("//") + parts[0] + QLatin1Char('/') + parts[1];
+        if (!::DirExists(share)) return false;
+    }
+    return QDir().mkpath(path);
+}
+
 QString clsLibrary::getFileTitle(const QString& path) {
     return QFileInfo(path).fileName();
 }
