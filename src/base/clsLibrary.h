@@ -69,6 +69,8 @@ public:
     // --- Time
     // The local time to the second, with the milliseconds apart.
     static QDateTime NowEx(int& msec);
+    // The present time through a date pattern; "bbb" is the milliseconds in three digits.
+    static QString formatNowEx(const QString& pattern);
     static qint64 getStopWatch();
 
     // --- Platform

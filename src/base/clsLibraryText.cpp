@@ -99,6 +99,17 @@ QDateTime clsLibrary::NowEx(int& msec) {
     return now.addMSecs(-msec);
 }
 
+QString clsLibrary::formatNowEx(const QString& pattern) {
+    int msec = 0;
+    const QDateTime now = NowEx(msec);
+    const TimeBase::CalendarTime t{now.date().year(), now.date().month(),  now.date().day(),
+                                   now.time().hour(), now.time().minute(), now.time().second()};
+    QString text = VbFormat::formatDateTime(t, pattern);
+    text.replace(QLatin1String("bbb"), get0FillStr(msec, 3));
+    text.replace(QLatin1Char('b'), QString::number(msec));
+    return text;
+}
+
 qint64 clsLibrary::getStopWatch() {
     return Stopwatch::tick();
 }

@@ -28,7 +28,7 @@ bool FileBytes::load(const QString& path) {
     if (fd < 0) return false;
     struct stat st {};
     bool ok = false;
-    if (fstat(fd, &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 0) {
+    if (mapFiles && fstat(fd, &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 0) {
         // Prefaulted in one go: the decode then reads the page cache with no faults of its own.
         void* m = mmap(nullptr, size_t(st.st_size), PROT_READ, MAP_PRIVATE | MAP_POPULATE, fd, 0);
         if (m != MAP_FAILED) {

@@ -1,6 +1,7 @@
 #include "LoadHelpers.h"
 
 #include "recording/FamilyCodes.h"
+#include "recording/FileBytes.h"
 #include "support/CsvWriter.h"
 #include "support/JlmWriter.h"
 #include "support/NpWriter.h"
@@ -132,6 +133,32 @@ TEST(FamilyRobustness, TheValidFilesLoad) {
         EXPECT_TRUE(out.ok()) << f.name << " message " << out.message;
         EXPECT_GE(views(1).PointCount, 3) << f.name;
         EXPECT_GE(views(1).ChannelCount, 2) << f.name;
+    }
+}
+
+// Every cell of view 1, row by row.
+QStringList storeTexts() {
+    const clsStorage& s = views(1).Storage;
+    QStringList texts;
+    QString t;
+    for (int r = 0; r <= s.MaxRows(); ++r)
+        for (int c = 0; c <= s.MaxCols(); ++c)
+            texts << (s.GetText(c, r, t) ? t : QStringLiteral("-"));
+    return texts;
+}
+
+TEST(FamilyRobustness, AMappedFileAndAReadFileGiveTheSameStore) {
+    FixtureDir dir;
+    for (const FamilyCase& f : kFamilies) {
+        const QString path = dir.write(f.fileName, f.build());
+        ASSERT_TRUE(loadDirect(path, f).ok()) << f.name;
+        const QStringList mapped = storeTexts();
+        FileBytes::mapFiles = false;
+        const LoadOutcome read = loadDirect(path, f);
+        FileBytes::mapFiles = true;
+        ASSERT_TRUE(read.ok()) << f.name;
+        EXPECT_GT(mapped.size(), 6) << f.name;
+        EXPECT_EQ(storeTexts(), mapped) << f.name;
     }
 }
 
