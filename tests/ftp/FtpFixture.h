@@ -24,7 +24,8 @@ protected:
         s.connectTimeoutMs = 2000;
         s.replyTimeoutMs = 2000;
         s.acceptTimeoutMs = 2000;
-        s.stallMs = 1000;
+        // Above the 1 s after which a dropped SYN to a busy local data port is sent again.
+        s.stallMs = 2500;
         return s;
     }
 
