@@ -273,7 +273,9 @@ void frmItiran::copySelection() {
 }
 
 bool frmItiran::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == vaSpread1_->viewport() && event->type() == QEvent::ContextMenu) {
+    // The event type first: while the table is destroyed its viewport still sends events, and
+    // the table is no scroll area any more by then.
+    if (event->type() == QEvent::ContextMenu && watched == vaSpread1_->viewport()) {
         pop1_->popup(static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     }
