@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -46,6 +47,15 @@ bool FileBytes::load(const QString& path) {
     data_ = reinterpret_cast<const uchar*>(owned_.constData());
     size_ = owned_.size();
     return file.error() == QFileDevice::NoError;
+}
+
+void FileBytes::dropRange(qint64 from, qint64 to) const {
+    if (!mapping_) return;
+    static const qint64 page = sysconf(_SC_PAGESIZE);
+    const qint64 begin = (std::max<qint64>(from, 0) + page - 1) / page * page;
+    const qint64 end = std::min(to, size_) / page * page;
+    if (end > begin)
+        madvise(static_cast<char*>(mapping_) + begin, size_t(end - begin), MADV_DONTNEED);
 }
 
 quint16 FileBytes::ReadU16Le(qint64 o) const {

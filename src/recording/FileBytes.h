@@ -26,6 +26,11 @@ public:
     // tests load every family both ways).
     static inline bool mapFiles = true;
 
+    // Gives back the mapped pages wholly inside from..to once a reader has passed them, so that a
+    // long file does not stay resident beside the store it is decoded into. Reads there still
+    // work (the pages come back from the file). Safe from several threads.
+    void dropRange(qint64 from, qint64 to) const;
+
     qint64 size() const { return size_; }
     const uchar* data() const { return data_; }
     bool has(qint64 offset, qint64 length) const {

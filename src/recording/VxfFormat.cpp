@@ -5,6 +5,7 @@
 #include "recording/CellFormat.h"
 #include "recording/ColorMaps.h"
 #include "recording/RecordingLimits.h"
+#include "recording/RowBlocks.h"
 
 #include <QFileInfo>
 
@@ -171,10 +172,7 @@ void VxfFormat::readSamples(const FileLoad& load, int channelBase, qint64 rowOff
     // Rows are transposed into columns in blocks, so that each column is written sequentially
     // while the block of file rows stays in the cache.
     const uchar* data = b.data() + head_.DataOffset;
-    constexpr qint64 kBlock = 512;
-    for (qint64 r0 = firstFileRow; r0 <= rows; r0 += kBlock) {
-        load.pollRows(r0, rows);
-        const qint64 r1 = std::min(rows, r0 + kBlock - 1);
+    const auto decodeBlock = [&](qint64 r0, qint64 r1) {
         for (int p = 0; p < stored; ++p) {
             quint16* const value = values[size_t(p)] + rowOffset;
             quint16* const alarm = alarms[size_t(p)] + rowOffset;
@@ -189,5 +187,6 @@ void VxfFormat::readSamples(const FileLoad& load, int channelBase, qint64 rowOff
                                      : AlarmCell::fromBytes(s[4], s[5]);
             }
         }
-    }
+    };
+    RowBlocks::decode(load, firstFileRow, rows, head_.DataOffset, rowBytes, decodeBlock);
 }

@@ -162,6 +162,19 @@ TEST(FamilyRobustness, AMappedFileAndAReadFileGiveTheSameStore) {
     }
 }
 
+TEST(FamilyRobustness, PagesGivenBackAfterDecodingStillReadTheSame) {
+    FixtureDir dir;
+    QByteArray whole(5 * 4096 + 123, '\0');
+    for (qsizetype i = 0; i < whole.size(); ++i) whole[i] = char(i * 7 + i / 4096);
+    FileBytes bytes;
+    ASSERT_TRUE(bytes.load(dir.write("pages.bin", whole)));
+    bytes.dropRange(-5, 3 * 4096 + 17);
+    bytes.dropRange(4096 + 1, 2 * 4096 + 5); // no whole page inside: nothing to do
+    bytes.dropRange(2 * 4096, whole.size() + 4096);
+    ASSERT_EQ(bytes.size(), whole.size());
+    EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(bytes.data()), bytes.size()), whole);
+}
+
 TEST(FamilyRobustness, TruncationAtManyOffsetsFailsCleanly) {
     FixtureDir dir;
     for (const FamilyCase& f : kFamilies) {

@@ -2,6 +2,7 @@
 
 #include "base/TimeBase.h"
 #include "recording/ColorMaps.h"
+#include "recording/RowBlocks.h"
 #include "support/RecordingFixture.h"
 #include "support/VxfWriter.h"
 
@@ -211,6 +212,51 @@ TEST_F(VxfReader, CancelConfirmedEmptiesTheView) {
     const QString path = dir.write("c.vxf", buildVxf(vxf(1, 5000)));
     EXPECT_EQ(loadFiles({path}, false, options).status, LoadOutcome::Status::Cancelled);
     EXPECT_EQ(asked, 2);
+    EXPECT_EQ(view.PointCount, 0);
+}
+
+// Every cell of the store, for comparing two loads.
+QStringList allCells(const clsStorage& s) {
+    QStringList texts;
+    QString t;
+    for (int r = 0; r <= s.MaxRows(); ++r)
+        for (int c = 0; c <= s.MaxCols(); ++c) texts << (s.GetText(c, r, t) ? t : "-");
+    return texts;
+}
+
+// Forces the two-thread decode for the lifetime of the object.
+struct SplitEveryFile {
+    const qint64 saved = RowBlocks::parallelBytes;
+    SplitEveryFile() { RowBlocks::parallelBytes = 0; }
+    ~SplitEveryFile() { RowBlocks::parallelBytes = saved; }
+};
+
+TEST_F(VxfReader, TwoThreadsDecodeTheSameStoreAsOne) {
+    for (quint32 mode : {0u, 4u}) {
+        // 3001 rows: the halves meet inside the file, not at its end, and the last block is short;
+        // the second file starts 7 rows later, so its rows are offset as well.
+        VxfDescription a = vxf(4, 3001), b = vxf(3, 1100, kStart + 7);
+        a.dataMode = b.dataMode = mode;
+        a.magic = b.magic = QByteArray("W3N\0", 4);
+        ASSERT_TRUE(load({a, b}).ok()) << mode;
+        const QStringList one = allCells(view.Storage);
+        SplitEveryFile split;
+        ASSERT_TRUE(load({a, b}).ok()) << mode;
+        EXPECT_EQ(allCells(view.Storage), one) << mode;
+        EXPECT_GT(one.size(), 3001 * 8) << mode;
+    }
+}
+
+TEST_F(VxfReader, CancelDuringATwoThreadDecodeStopsBothHalves) {
+    class CancelLate : public Progress {
+        int polls = 0;
+        void setValue(int) override {}
+        bool poll() override { return ++polls > 3; }
+    } progress;
+    LoadOptions options;
+    options.progress = &progress;
+    SplitEveryFile split;
+    EXPECT_EQ(load({vxf(2, 20000)}, options).status, LoadOutcome::Status::Cancelled);
     EXPECT_EQ(view.PointCount, 0);
 }
 
