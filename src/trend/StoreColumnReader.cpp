@@ -21,9 +21,13 @@ double cellValue(const CellFormat& format, quint32 raw) {
 }
 
 // Plain cells with 0..4 decimals: the text is the raw value over 10^d, or a status word.
+bool isPlain(const CellFormat& format) {
+    return format.kind == CellFormat::Kind::Plain && format.decimals >= 0 && format.decimals <= 4 &&
+           !format.wide();
+}
+
 bool fillPlain(const CellFormat& format, std::vector<double>& values) {
-    if (format.kind != CellFormat::Kind::Plain || format.decimals < 0 || format.decimals > 4)
-        return false;
+    if (!isPlain(format)) return false;
     const double divisor = std::pow(10.0, format.decimals);
     for (int raw = 0; raw < 65536; ++raw) {
         const qint16 v = qint16(quint16(raw));
@@ -51,6 +55,9 @@ public:
     }
 
     const CellFormat& format() const { return format_; }
+    // Only a table complete from the start is shared between columns: the others fill in on
+    // use, and columns are read from two threads at once while pyramids are built.
+    static bool sharable(const CellFormat& format) { return isPlain(format); }
 
     double at(quint16 raw) const {
         const double v = values_[raw];
@@ -128,7 +135,7 @@ void StoreColumnReader::buildRuns(const clsStorage& storage, int col) {
         while (table < int(tables_.size()) && !(tables_[size_t(table)]->format() == segment.format))
             ++table;
         if (table == int(tables_.size())) {
-            if (transform_) {
+            if (transform_ || !Table::sharable(segment.format)) {
                 owned_.push_back(std::make_unique<Table>(segment.format, transform_));
                 tables_.push_back(owned_.back().get());
             } else {

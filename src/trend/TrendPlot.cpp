@@ -4,6 +4,7 @@
 #include "base/Progress.h"
 #include "base/ShowMsg.h"
 #include "base/WinColor.h"
+#include "platform/PyramidBuilds.h"
 #include "recording/SampleRules.h"
 #include "trend/LineSeriesSource.h"
 #include "trend/PlotValue.h"
@@ -73,11 +74,10 @@ void TrendPlot::fillSeries(bool direct, Progress* progress) {
         chart.setSeriesSource(s, std::make_unique<LineSeriesSource>(t.Storage, line, t.PointCount,
                                                                     st.ScalePercentMode));
         filled_[size_t(s - 1)] = fill;
-        if (progress) {
-            chart.series(s).pyramid(); // built now, so that a load that cannot hold it fails here
-            progress->setValue(50 + 45 * s / c);
-        }
     }
+    // Pyramids are built now, so that a load that cannot hold them fails here.
+    if (progress)
+        buildPyramids(chart, 1, c, [&](int done) { progress->setValue(50 + 45 * done / c); });
 }
 
 void TrendPlot::CH_DataSet() {
