@@ -6,6 +6,8 @@
 #include "support/RecordingFixture.h"
 #include "support/VxfWriter.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -258,6 +260,23 @@ TEST_F(VxfReader, CancelDuringATwoThreadDecodeStopsBothHalves) {
     SplitEveryFile split;
     EXPECT_EQ(load({vxf(2, 20000)}, options).status, LoadOutcome::Status::Cancelled);
     EXPECT_EQ(view.PointCount, 0);
+}
+
+TEST_F(VxfReader, AFileCutShortBetweenItsRecognitionAndItsReadFailsCleanly) {
+    for (const qint64 keep : {qint64(0), qint64(40), qint64(600), qint64(-9)}) {
+        const QByteArray whole = buildVxf(vxf(3, 400));
+        const QString path = dir.write("cut.vxf", whole);
+        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), false);
+        QFile file(path);
+        ASSERT_TRUE(file.resize(keep < 0 ? whole.size() + keep : keep));
+        ViewState& v = views(1);
+        copySelectionToView(v);
+        const LoadOutcome out = LoadRecording(v, LoadOptions());
+        EXPECT_FALSE(out.ok()) << keep;
+        // 587 once the channels were read, with their count behind it.
+        EXPECT_TRUE(out.message == 560 || out.message == 587) << keep << " " << out.message;
+        EXPECT_EQ(view.PointCount, 0) << keep;
+    }
 }
 
 TEST_F(VxfReader, LongRecordingsCapTheSixteenBitRowCount) {
