@@ -166,24 +166,38 @@ GridModel::VirtualReply DataList::fillBlock(qint32 row, qint32 count, int direct
 
 // One row of the list: the sample number, its time, and each channel's value or status,
 // red where an alarm level is set at that sample.
+bool DataList::locate(const ListRows& rows, qint64 g, qsizetype& point, qint32& sample) const {
+    point = rows.pointOf(g);
+    const qint64 x = rows.rowIndexOf(point);
+    if (point == 0 || x < 0 || x >= std::numeric_limits<qint32>::max()) return false;
+    sample = qint32(x + 1);
+    return true;
+}
+
+QString DataList::channelText(qsizetype point, qint32 sample, int i) {
+    const int vn = viewNumber();
+    const double y = view_.chart().Y(i, point);
+    return y == Chart::kHoleValue
+               ? ChannelTexts::holeText(vn, i, sample)
+               : texts_.text(ScaleToEngineering(y, vn, i), ChannelTexts::formatCode(vn, i));
+}
+
+int DataList::channelColumns() const {
+    return std::min<int>(grid_.maxCols() - 1, views(viewNumber_).ChannelCount);
+}
+
 void DataList::fillRow(const ListRows& rows, qint64 g) {
-    const qsizetype p = rows.pointOf(g);
-    const qint64 x = rows.rowIndexOf(p);
-    if (p == 0 || x < 0 || x >= std::numeric_limits<qint32>::max()) return;
+    qsizetype p;
+    qint32 sample;
+    if (!locate(rows, g, p, sample)) return;
     const qint32 r = qint32(g - state().ListRowOffset);
-    const qint32 sample = qint32(x + 1);
     const int vn = viewNumber();
     grid_.setText(0, r, QString::number(sample));
-    grid_.setText(1, r, SampleTimeText(x, vn).dateTime);
-    const ChartModel& chart = view_.chart();
-    const int channels = std::min<int>(grid_.maxCols() - 1, views(vn).ChannelCount);
+    grid_.setText(1, r, SampleTimeText(sample - 1, vn).dateTime);
+    const int channels = channelColumns();
     for (int i = 1; i <= channels; ++i) {
         const bool alarm = CursorReadout::firstAlarmLevel(vn, sample, i) != 0;
-        const double y = chart.Y(i, p);
-        grid_.setText(i + 1, r,
-                      y == Chart::kHoleValue ? ChannelTexts::holeText(vn, i, sample)
-                                             : texts_.text(ScaleToEngineering(y, vn, i),
-                                                           ChannelTexts::formatCode(vn, i)));
+        grid_.setText(i + 1, r, channelText(p, sample, i));
         grid_.setForeColor(i + 1, r, alarm ? kAlarmColor : kNormalColor);
     }
 }

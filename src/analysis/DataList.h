@@ -30,6 +30,7 @@ public:
     int viewNumber() const { return viewNumber_; }
     DataListState& state() const;
     GridModel& grid() { return grid_; }
+    const TrendView& trendView() const { return view_; }
 
     // The window's load: row offset of the circle, the table, switched-off channels hidden.
     void load();
@@ -61,6 +62,15 @@ public:
 
     // The hover text of toolbar button `index` (message 379 + index).
     static QString toolbarHoverText(int index);
+
+    // Where list row g (a grid row plus ListRowOffset) stands: its plot point and its 1-based
+    // sample. False when the chart holds no such point (the view's data was replaced).
+    bool locate(const ListRows& rows, qint64 g, qsizetype& point, qint32& sample) const;
+    // The text of channel i at a plot point as the grid shows it: the value in the channel's
+    // format, or for a hole the status word of the sample (message 179 without one).
+    QString channelText(qsizetype point, qint32 sample, int i);
+    // Channels that have a column in the grid.
+    int channelColumns() const;
 
 private:
     void fillRow(const ListRows& rows, qint64 g);

@@ -4,11 +4,13 @@ namespace Cli {
 
 extern const Verb kCollectVerb;
 extern const Verb kDumpVerb;
+extern const Verb kExportVerb;
 extern const Verb kInfoVerb;
 extern const Verb kRenderVerb;
 
 const Verb* findVerb(const QString& name) {
-    static const Verb* const kVerbs[] = {&kCollectVerb, &kDumpVerb, &kInfoVerb, &kRenderVerb};
+    static const Verb* const kVerbs[] = {&kCollectVerb, &kDumpVerb, &kExportVerb, &kInfoVerb,
+                                         &kRenderVerb};
     for (const Verb* verb : kVerbs)
         if (name == QLatin1String(verb->name)) return verb;
     return nullptr;

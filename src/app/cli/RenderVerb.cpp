@@ -1,9 +1,8 @@
+#include "app/cli/CliRange.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
 #include "base/Progress.h"
-#include "base/TimeBase.h"
 #include "trend/TrendImage.h"
-#include "trend/TrendTimeAxis.h"
 #include "trend/TrendView.h"
 
 #include <QRegularExpression>
@@ -56,31 +55,6 @@ bool takeRenderArgs(QStringList& args, RenderArgs& r, QString& error) {
     return error.isEmpty();
 }
 
-// The 1-based point of a time, kept within the recording.
-bool pointOf(const QString& text, const ViewState& v, qint32& point) {
-    qint64 seconds;
-    if (!TimeBase::parseIsoText(text, seconds)) return false;
-    const qint64 index = secondsToIndex(seconds, 0, v.SampleInterval, v.ViewStart, v.ViewStartMsec);
-    point = qint32(qBound<qint64>(0, index, qint64(v.PointCount) - 1) + 1);
-    return true;
-}
-
-// The span of --from and --to as a zoom level; the ends default to those of the recording.
-bool applyRange(TrendView& view, const RenderArgs& r, QString& error) {
-    if (r.from.isEmpty() && r.to.isEmpty()) return true;
-    const ViewState& v = view.tables();
-    qint32 first = 1, last = v.PointCount;
-    if (!r.from.isEmpty() && !pointOf(r.from, v, first))
-        error = QStringLiteral("bad --from time");
-    else if (!r.to.isEmpty() && !pointOf(r.to, v, last))
-        error = QStringLiteral("bad --to time");
-    else if (first >= last)
-        error = QStringLiteral("--from must be before --to");
-    if (!error.isEmpty()) return false;
-    view.zoom().pushSpan(first, last);
-    return true;
-}
-
 int runRender(const QStringList& input) {
     QTextStream err(stderr);
     QStringList args = input;
@@ -102,7 +76,7 @@ int runRender(const QStringList& input) {
         err << "recview render: the recording cannot be shown\n";
         return 1;
     }
-    if (!applyRange(view, r, error)) {
+    if (!applyTimeRange(view, r.from, r.to, error)) {
         err << "recview render: " << error << "\n";
         return 2;
     }
