@@ -5,6 +5,7 @@
 #include "app/widgets/DesktopStartup.h"
 #include "base/ShowMsg.h"
 #include "base/widgets/frmMessageBox.h"
+#include "print/widgets/ListExportCommands.h"
 #include "savedwork/SavedTrendSettings.h"
 
 #include <QApplication>
@@ -43,6 +44,7 @@ int main(int argc, char** argv) {
     setMessageSink(&boxes);
     installSavedTrendSettings();
     installDataList();
+    installListExport();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
     setMessageSink(nullptr);

@@ -30,7 +30,8 @@ public:
     // Makes an absolute folder and every missing level above it; a network path ("//server/
     // share/...") only below its share, which must exist. True when the folder exists after.
     static bool makeDir(const QString& path);
-    static QString getFileTitle(const QString& path); // "a/b.vxf" -> "b.vxf"
+    static QString getFileTitle(const QString& path);   // "a/b.vxf" -> "b.vxf"
+    static QString getFileTitleEx(const QString& path); // "a/b.vxf" -> "b"
     // The size as text, with the locale's digit grouping when `grouped`; "" on a failure.
     static QString getFileSize(const QString& path, bool grouped);
     // Files matching a wildcard pattern (case ignored), sorted by name; a missing directory

@@ -57,6 +57,13 @@ QString clsLibrary::getFileTitle(const QString& path) {
     return QFileInfo(path).fileName();
 }
 
+// The name without its folder and without the part from its last dot on.
+QString clsLibrary::getFileTitleEx(const QString& path) {
+    const QString name = getFileTitle(path);
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot > 0 ? name.left(dot) : name;
+}
+
 QString clsLibrary::getFileSize(const QString& path, bool grouped) {
     const QFileInfo info(path);
     if (!info.exists() || info.isDir()) return QString();

@@ -60,6 +60,7 @@ public:
     ViewState& tables() const { return views(view_); }
     TrendViewState& state() const { return trendState(view_); }
     TrendWindowState& window() { return window_; }
+    const TrendWindowState& window() const { return window_; }
 
     TrendPlot& plot() { return plot_; }
     TrendScaleAxes& scales() { return scales_; }

@@ -54,6 +54,14 @@ TEST(clsLibrary, ConversionsRoundHalvesToEvenAndFailToZero) {
                                                             "a"));
 }
 
+TEST(clsLibrary, FileTitlesWithAndWithoutTheExtension) {
+    EXPECT_EQ(clsLibrary::getFileTitle("/a/b.c/furnace.day1.vxf"), "furnace.day1.vxf");
+    EXPECT_EQ(clsLibrary::getFileTitleEx("/a/b.c/furnace.day1.vxf"), "furnace.day1");
+    EXPECT_EQ(clsLibrary::getFileTitleEx("/a/b.c/noext"), "noext");
+    EXPECT_EQ(clsLibrary::getFileTitleEx(".hidden"), ".hidden");
+    EXPECT_EQ(clsLibrary::getFileTitleEx(""), "");
+}
+
 TEST(clsLibrary, ListingsAreSortedAndMatchRegardlessOfCase) {
     QTemporaryDir dir;
     const QString d = dir.path();
