@@ -175,11 +175,22 @@ bool DataList::locate(const ListRows& rows, qint64 g, qsizetype& point, qint32& 
 }
 
 QString DataList::channelText(qsizetype point, qint32 sample, int i) {
-    const int vn = viewNumber();
     const double y = view_.chart().Y(i, point);
-    return y == Chart::kHoleValue
-               ? ChannelTexts::holeText(vn, i, sample)
-               : texts_.text(ScaleToEngineering(y, vn, i), ChannelTexts::formatCode(vn, i));
+    return y == Chart::kHoleValue ? holeText(sample, i) : valueText(y, i);
+}
+
+QString DataList::valueText(double y, int i) {
+    const int vn = viewNumber();
+    return texts_.text(ScaleToEngineering(y, vn, i), ChannelTexts::formatCode(vn, i));
+}
+
+QString DataList::plainValueText(double y, int i) const {
+    const int vn = viewNumber();
+    return ChannelValueText(ScaleToEngineering(y, vn, i), ChannelTexts::formatCode(vn, i));
+}
+
+QString DataList::holeText(qint32 sample, int i) const {
+    return ChannelTexts::holeText(viewNumber(), i, sample);
 }
 
 int DataList::channelColumns() const {

@@ -69,6 +69,13 @@ public:
     // The text of channel i at a plot point as the grid shows it: the value in the channel's
     // format, or for a hole the status word of the sample (message 179 without one).
     QString channelText(qsizetype point, qint32 sample, int i);
+    // The two halves of that: the text of a plotted value y (not the hole) of channel i, and the
+    // text of a hole at a sample.
+    QString valueText(double y, int i);
+    QString holeText(qint32 sample, int i) const;
+    // valueText without the list's cache of texts, so that it may run on another thread while
+    // this one reads (the view's state must not change meanwhile).
+    QString plainValueText(double y, int i) const;
     // Channels that have a column in the grid.
     int channelColumns() const;
 

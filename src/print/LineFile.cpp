@@ -15,8 +15,8 @@ void LineFile::line(const QString& text) {
     line(text.toUtf8());
 }
 
-void LineFile::line(const QByteArray& utf8) {
-    buffer_.append(utf8);
+void LineFile::line(const char* utf8, size_t length) {
+    buffer_.append(utf8, qsizetype(length));
     buffer_.append("\r\n", 2);
     if (buffer_.size() >= kFlushBytes) flush();
 }

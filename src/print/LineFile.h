@@ -16,7 +16,8 @@ public:
     bool open();
     // The line's text and CR LF.
     void line(const QString& text);
-    void line(const QByteArray& utf8);
+    void line(const QByteArray& utf8) { line(utf8.constData(), size_t(utf8.size())); }
+    void line(const char* utf8, size_t length);
     // Writes what is left and renames into place; false on any write error.
     bool commit();
 

@@ -8,7 +8,11 @@
 #include "base/Progress.h"
 #include "print/LineFile.h"
 #include "print/ListComments.h"
+#include "print/ListRowTexts.h"
 #include "trend/TrendTimeAxis.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -41,23 +45,33 @@ bool WriteListFile(DataList& list, ExportKind::Kind kind, const QString& path, P
     const qint64 offset = list.state().ListRowOffset;
     const qint32 total = grid.maxRows();
     const qint32 step = SkipStep();
-    const int channels = list.channelColumns();
     const int vn = list.viewNumber();
-    QString line;
-    qint64 written = 0;
-    for (qint64 r = 1; r <= total; r += step) {
-        qsizetype p;
-        qint32 sample;
-        if (list.locate(rows, r + offset, p, sample)) {
+    ListRowTexts texts(list);
+    // Rows go in blocks: the channel values of a block are read and formatted column by column.
+    constexpr int kBlock = 16384;
+    std::vector<qsizetype> points;
+    std::vector<qint32> samples;
+    std::vector<std::string> lines(kBlock);
+    for (qint64 r0 = 1; r0 <= total;) {
+        points.clear();
+        samples.clear();
+        qint64 r = r0;
+        for (; r <= total && points.size() < size_t(kBlock); r += step) {
+            qsizetype p;
+            qint32 sample;
+            if (!list.locate(rows, r + offset, p, sample)) continue;
             const SampleTime t = SampleTimeText(sample - 1, vn);
-            line = t.date + sep + t.time;
-            for (int i = 1; i <= channels; ++i)
-                if (!grid.colHidden(i + 1)) line += sep + list.channelText(p, sample, i);
-            file.line(line);
+            std::string& line = lines[points.size()];
+            line.assign((t.date + sep + t.time).toStdString()); // into the line's capacity
+            points.push_back(p);
+            samples.push_back(sample);
         }
-        if (progress && ++written % 100 == 0) {
+        texts.append(points, samples, char(sep.unicode()), lines);
+        for (size_t k = 0; k < points.size(); ++k) file.line(lines[k].data(), lines[k].size());
+        r0 = r;
+        if (progress) {
             if (progress->poll()) return false;
-            progress->setValue(int(100 * r / total));
+            progress->setValue(int(100 * std::min<qint64>(r0, total) / total));
         }
     }
     writeCommentBlock(file, list, sep);

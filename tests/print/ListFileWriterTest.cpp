@@ -111,8 +111,7 @@ TEST_F(ListFile, CommentBlockOnlyWhenTheChartHasMoreThanOneLabel) {
                              (MsgText(220) + "," + MsgText(77) + "," + MsgText(293)).toUtf8() +
                              "\r\n" + (t2.date + "," + t2.time + ",early\r\n").toUtf8() +
                              (t4.date + "," + t4.time + ",late one\r\n").toUtf8();
-    EXPECT_TRUE(
-        readAll(path).ends_with((rowLine(5, {num(5), num(50)}, ',') + block).toStdString()))
+    EXPECT_TRUE(readAll(path).ends_with((rowLine(5, {num(5), num(50)}, ',') + block).toStdString()))
         << readAll(path);
 }
 
