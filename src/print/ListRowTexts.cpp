@@ -10,8 +10,8 @@
 #include <exception>
 #include <thread>
 
-ListRowTexts::ListRowTexts(DataList& list) : list_(list) {
-    for (int i = 1; i <= list.channelColumns(); ++i) {
+ListRowTexts::ListRowTexts(DataList& list, int lastChannel) : list_(list) {
+    for (int i = 1; i <= std::min(lastChannel, list.channelColumns()); ++i) {
         if (list.grid().colHidden(i + 1)) continue;
         channels_.push_back({i, NumberTextTable()});
         list.plainValueText(0, i); // the view's state is complete before threads read it

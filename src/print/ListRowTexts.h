@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QtGlobal>
+#include <limits>
 #include <string>
 
 #include <vector>
@@ -18,7 +19,8 @@ class DataList;
 // texts) is only ever touched by one of them.
 class ListRowTexts {
 public:
-    explicit ListRowTexts(DataList& list);
+    // Channels up to lastChannel that the grid shows.
+    explicit ListRowTexts(DataList& list, int lastChannel = std::numeric_limits<int>::max());
 
     // For rows k of a block, at plot points[k] and samples[k]: appends separator and text of
     // every shown channel to lines[k].

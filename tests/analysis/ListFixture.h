@@ -15,6 +15,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace listtest {
 
@@ -26,10 +28,14 @@ constexpr quint8 alarmByte(int lowKind, int highKind = 0) {
 // A recorder file opened into a view as the trend window does it (selection, store, trend
 // fill, alarm table), and the data list of that view over a grid, loaded as its window loads.
 struct ListView {
-    ListView(const QString& name, const QByteArray& bytes, int number = 1) {
-        const QString path = dir.write(name, bytes);
+    ListView(const QString& name, const QByteArray& bytes, int number = 1)
+        : ListView(std::vector<std::pair<QString, QByteArray>>{{name, bytes}}, number) {}
+    // Several files opened together (joined side by side when their batch texts differ).
+    explicit ListView(const std::vector<std::pair<QString, QByteArray>>& files, int number = 1) {
+        QStringList paths;
+        for (const auto& [name, bytes] : files) paths << dir.write(name, bytes);
         selection().clear();
-        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), false);
+        CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(paths), false);
         copySelectionToView(views(number));
         trendState(number).reset();
         LoadRecording(views(number), LoadOptions());

@@ -4,6 +4,7 @@
 #include "base/LanguageTable.h"
 #include "base/Progress.h"
 #include "print/ExportKind.h"
+#include "print/ListWorkbookWriter.h"
 #include "trend/TrendCursors.h"
 #include "trend/TrendTimeAxis.h"
 
@@ -163,6 +164,15 @@ VerbRun runExport(const QStringList& args) {
             QString::fromUtf8(p.readAllStandardError())};
 }
 
+// The first sheet of a workbook as stored, read by unzip.
+std::string sheetXml(const QString& path) {
+    QProcess p;
+    p.start(QStringLiteral("unzip"),
+            {QStringLiteral("-p"), path, QStringLiteral("xl/worksheets/sheet1.xml")});
+    p.waitForFinished(60000);
+    return p.readAllStandardOutput().toStdString();
+}
+
 TEST_F(ListFile, TheCommandLineWritesWhatTheWindowWrites) {
     ListView v(twoChannels(40));
     const QString file = v.dir.path("list.vxf");
@@ -179,6 +189,17 @@ TEST_F(ListFile, TheCommandLineWritesWhatTheWindowWrites) {
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_EQ(readAll(verb), readAll(window));
     EXPECT_EQ(QByteArray::fromStdString(readAll(verb)).count("\r\n"), 1 + 4); // rows 12, 17, 22, 27
+
+    // A workbook from the command line holds the sheet the window's command makes.
+    const QString windowBook = v.dir.path("window.xlsx"), verbBook = v.dir.path("verb.XLSX");
+    QString error;
+    ASSERT_TRUE(WriteListExcel(*v.list, windowBook, nullptr, error));
+    EXPECT_EQ(runExport({file, "-o", verbBook, "--cursors", "30,12", "--rows", "cursors", "--hide",
+                         "2", "--skip", "4"})
+                  .exitCode,
+              0);
+    EXPECT_EQ(sheetXml(verbBook), sheetXml(windowBook));
+    EXPECT_NE(sheetXml(windowBook).find("<row r=\"5\""), std::string::npos);
 
     const VerbRun bad = runExport({file, "-o", v.dir.path("x.csv"), "--cursors", "41,0"});
     EXPECT_EQ(bad.exitCode, 2);

@@ -21,9 +21,9 @@ const char* const kUsage =
     "  recview render [--gs] FILE... -o OUT.png|OUT.pdf [--size WxH]\n"
     "                 [--from \"YYYY-MM-DD hh:mm:ss\"] [--to \"YYYY-MM-DD hh:mm:ss\"]\n"
     "                                    the trend chart of the recording as an image\n"
-    "  recview export [--gs] FILE... -o OUT.csv|OUT.txt [--rows all|cursors|visible]\n"
+    "  recview export [--gs] FILE... -o OUT.csv|OUT.txt|OUT.xlsx [--rows all|cursors|visible]\n"
     "                 [--cursors A,B] [--from T] [--to T] [--skip N] [--hide CH,...]\n"
-    "                                    the data list as CSV (a .csv name) or tab-separated text\n"
+    "                                    the data list as CSV, tab-separated text or a workbook\n"
     "  recview collect [--settings FILE] [--port N] [--row N]...\n"
     "                                    one FTP collection pass over the configured rows\n"
     "  recview --version | --help\n";

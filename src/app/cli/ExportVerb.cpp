@@ -8,6 +8,7 @@
 #include "base/clsConst.h"
 #include "print/ExportKind.h"
 #include "print/ListFileWriter.h"
+#include "print/ListWorkbookWriter.h"
 #include "trend/TrendCursors.h"
 #include "trend/TrendView.h"
 
@@ -116,10 +117,10 @@ int runExport(const QStringList& input) {
     const int rowSet = rowSetOf(e, error);
     if (rowSet == 0) return usage(error);
     if (e.marker) return usage(QStringLiteral("--marker is not available in this version"));
-    if (ExportKind::isWorkbook(e.out))
-        return usage(QStringLiteral(".xlsx output is not available in this version"));
+    const bool workbook = ExportKind::isWorkbook(e.out);
     const ExportKind::Kind kind = ExportKind::ofName(e.out);
-    if (kind == ExportKind::Csv && !ExportKind::csvAllowed(clsConst::shared().DecimalSeparator()))
+    if (!workbook && kind == ExportKind::Csv &&
+        !ExportKind::csvAllowed(clsConst::shared().DecimalSeparator()))
         return usage(QStringLiteral("the decimal separator is a comma: CSV would split numbers; "
                                     "write a .txt file"));
     const RecordingArgs parsed = splitRecordingArgs(args);
@@ -143,8 +144,12 @@ int runExport(const QStringList& input) {
     list.load();
     list.setRowSet(rowSet);
     if (!e.skip.isEmpty()) SkipCount() = SkipCountFromText(e.skip);
-    if (!WriteListFile(list, kind, e.out, &progress)) {
+    QString why;
+    const bool written = workbook ? WriteListExcel(list, e.out, &progress, why)
+                                  : WriteListFile(list, kind, e.out, &progress);
+    if (!written) {
         err << messageText(562) << "\n" << e.out << "\n";
+        if (!why.isEmpty()) err << why << "\n";
         return 1;
     }
     return 0;
