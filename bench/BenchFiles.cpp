@@ -60,7 +60,7 @@ QStringList ensureRecording(const QString& dir, int rows) {
     for (int i = 0; i < 2; ++i) {
         const QString length = rows == kRows ? QString() : QStringLiteral("-%1").arg(rows);
         const QString path = dir + QStringLiteral("/bench%1%2.vxf").arg(i + 1).arg(length);
-        const qint64 expected = 2600 + qint64(rows) * kChannelsPerFile * 4;
+        const qint64 expected = 2640 + qint64(rows) * kChannelsPerFile * 4;
         if (QFileInfo(path).size() != expected) writeFile(path, i, rows);
         paths << path;
     }

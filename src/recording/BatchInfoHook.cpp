@@ -1,5 +1,8 @@
 #include "recording/BatchInfoHook.h"
 
-bool ReadBatchInfo(ViewState&, const FileBytes&, qint64, qint64) {
-    return false;
+#include "recording/clsBatchInfo.h"
+
+bool ReadBatchInfo(ViewState& view, const FileBytes& bytes, qint64 bodyEnd, qint64 batchBase) {
+    clsBatchInfo& batch = view.part<clsBatchInfo>();
+    return batch.ReadBatchInfo(batchBase, bodyEnd, bytes) && batch.HasBatchInfo();
 }

@@ -1,5 +1,7 @@
 #include "recording/ViewState.h"
 
+#include "recording/clsBatchInfo.h"
+
 #include "recording/SelectionLists.h"
 
 #include <array>
@@ -15,6 +17,7 @@ void ViewState::clearRecording() {
     NoDataFlag = false;
     IrregularTime = false;
     BatchInfoFound = false;
+    part<clsBatchInfo>().clear();
     PointCount = 0;
     ViewShownPoints = 0;
     ViewRowCount = 0;

@@ -8,7 +8,7 @@ namespace fixtures {
 
 namespace {
 
-constexpr int kDataOffset = 2600;
+constexpr int kDataOffset = 2640; // behind the wide layout's batch head (2576 + 28)
 
 void put(QByteArray& b, qint64 at, const void* data, qint64 n) {
     if (b.size() < at + n) b.resize(at + n, '\0');
@@ -43,6 +43,7 @@ void putHeadTables(QByteArray& b, const VxfDescription& d) {
     putText(b, batch, d.batchText, 16);
     putText(b, 2550, d.modelText, 17);
     putText(b, 2567, d.versionText, 9);
+    put(b, wide ? 2576 : 2048, d.batchHead.constData(), d.batchHead.size());
 }
 
 } // namespace
@@ -100,6 +101,23 @@ QByteArray buildVxf(const VxfDescription& d) {
     }
     b += d.batchBlock;
     return b;
+}
+
+QByteArray batchHead(const QByteArray& name, const QByteArray& lot, int count) {
+    QByteArray head(28, '\0');
+    putText(head, 0, name, 16);
+    putText(head, 16, lot, 9);
+    head[25] = char(0x5A); // the flag bytes are kept, whatever they hold
+    head[26] = char(0xA5);
+    head[27] = char(count);
+    return head;
+}
+
+QByteArray batchTexts(const QList<QByteArray>& titles, const QList<QByteArray>& contexts) {
+    QByteArray texts;
+    for (const QList<QByteArray>* list : {&titles, &contexts})
+        for (const QByteArray& t : *list) texts += t.left(16).leftJustified(16, '\0');
+    return texts;
 }
 
 bool writeFile(const QString& path, const QByteArray& bytes) {

@@ -55,7 +55,8 @@ struct VxfDescription {
     QVector<VxfAlarmRecord> alarms;
     quint16 alarmSize = 14;
     QByteArray batchText;
-    QByteArray batchBlock; // bytes after the alarm records
+    QByteArray batchHead;  // the batch block's head, at the layout's batch base (28 bytes)
+    QByteArray batchBlock; // bytes after the alarm records: the batch texts
     QByteArray modelText;
     QByteArray versionText;
     quint32 rowPadding = 0; // extra bytes in RowSize beyond the samples
@@ -66,6 +67,11 @@ struct VxfDescription {
 };
 
 QByteArray buildVxf(const VxfDescription& d);
+
+// A batch head: name (16 bytes), lot number (9), two flag bytes and the text count; and the
+// texts behind the body: the titles, then the contexts, 16 bytes each.
+QByteArray batchHead(const QByteArray& name, const QByteArray& lot, int count);
+QByteArray batchTexts(const QList<QByteArray>& titles, const QList<QByteArray>& contexts);
 
 // Writes bytes to a file; false on failure.
 bool writeFile(const QString& path, const QByteArray& bytes);

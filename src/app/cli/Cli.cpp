@@ -24,6 +24,8 @@ const char* const kUsage =
     "  recview export [--gs] FILE... -o OUT.csv|OUT.txt|OUT.xlsx [--rows all|cursors|visible]\n"
     "                 [--cursors A,B] [--from T] [--to T] [--skip N] [--hide CH,...]\n"
     "                                    the data list as CSV, tab-separated text or a workbook\n"
+    "  recview batch [--json] [--gs] FILE...\n"
+    "                                    the batch name, lot number and texts of a recording\n"
     "  recview collect [--settings FILE] [--port N] [--row N]...\n"
     "                                    one FTP collection pass over the configured rows\n"
     "  recview --version | --help\n";

@@ -2,6 +2,7 @@
 
 namespace Cli {
 
+extern const Verb kBatchVerb;
 extern const Verb kCollectVerb;
 extern const Verb kDumpVerb;
 extern const Verb kExportVerb;
@@ -9,8 +10,8 @@ extern const Verb kInfoVerb;
 extern const Verb kRenderVerb;
 
 const Verb* findVerb(const QString& name) {
-    static const Verb* const kVerbs[] = {&kCollectVerb, &kDumpVerb, &kExportVerb, &kInfoVerb,
-                                         &kRenderVerb};
+    static const Verb* const kVerbs[] = {&kBatchVerb,  &kCollectVerb, &kDumpVerb,
+                                         &kExportVerb, &kInfoVerb,    &kRenderVerb};
     for (const Verb* verb : kVerbs)
         if (name == QLatin1String(verb->name)) return verb;
     return nullptr;
