@@ -1,3 +1,4 @@
+#include "analysis/widgets/frmBatchInfo.h"
 #include "analysis/widgets/frmItiran.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
@@ -44,6 +45,7 @@ int main(int argc, char** argv) {
     setMessageSink(&boxes);
     installSavedTrendSettings();
     installDataList();
+    installBatchInfo();
     installListExport();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;

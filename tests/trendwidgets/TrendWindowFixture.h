@@ -22,11 +22,12 @@ namespace trendwidgets {
 // way the main window does it: command line selection, copy to the view, LoadRecording.
 struct LoadedWindow {
     explicit LoadedWindow(int viewNumber, int channels = 2, int rows = 600,
-                          qint16 (*value)(int row, int channel) = ramp) {
+                          qint16 (*value)(int row, int channel) = ramp)
+        : LoadedWindow(viewNumber, fixtures::simpleVxf(channels, rows, 86400 * 30, 10, value)) {}
+    LoadedWindow(int viewNumber, const fixtures::VxfDescription& recording) {
         trendState(viewNumber).reset();
-        const QString path = dir.write(
-            QStringLiteral("trend%1.vxf").arg(viewNumber),
-            fixtures::buildVxf(fixtures::simpleVxf(channels, rows, 86400 * 30, 10, value)));
+        const QString path =
+            dir.write(QStringLiteral("trend%1.vxf").arg(viewNumber), fixtures::buildVxf(recording));
         selection().clear();
         CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine({path}), false);
         copySelectionToView(views(viewNumber));

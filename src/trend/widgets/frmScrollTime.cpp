@@ -168,6 +168,14 @@ void frmScrollTime::buildToolbars() {
         list->setObjectName(QStringLiteral("Toolbar1_5"));
         connect(list, &QAction::triggered, this, [this] { toolbar1Command(5); });
     }
+    if (toolbar1Windows().count(13)) {
+        // The batch information, enabled only while the recording has it.
+        QAction* batch = toolbar1->addAction(style()->standardIcon(QStyle::SP_FileDialogInfoView),
+                                             QStringLiteral("Batch"));
+        batch->setObjectName(QStringLiteral("Toolbar1_13"));
+        batch->setEnabled(false);
+        connect(batch, &QAction::triggered, this, [this] { toolbar1Command(13); });
+    }
 
     Toolbar2_ = new QToolBar(this);
     Toolbar2_->setObjectName(QStringLiteral("Toolbar2"));
@@ -391,6 +399,8 @@ void frmScrollTime::syncControls() {
     hsbTrendGraph_->setEnabled(bar.Enabled);
     syncing_ = false;
     setWindowTitle(w.Caption);
+    if (auto* batch = findChild<QAction*>(QStringLiteral("Toolbar1_13")))
+        batch->setEnabled(views(viewNumber_).Loaded && views(viewNumber_).BatchInfoFound);
     lblDateTemp_->setText(w.DateTemp);
     showMarkerLine();
     syncChannelChoice();
