@@ -125,4 +125,10 @@ QString displayFormat(double value, const QString& pattern) {
     return VbFormat::formatNumber(value, pattern, displaySeps());
 }
 
+QString statisticText(int viewNumber, int channel, int order, double value) {
+    if (value == Chart::kHoleValue) return MsgText(179);
+    if (order != 4) value = ScaleToEngineering(value, viewNumber, channel);
+    return ChannelValueText(value, order <= 2 ? formatCode(viewNumber, channel) : 0);
+}
+
 } // namespace ChannelTexts

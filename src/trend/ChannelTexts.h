@@ -39,4 +39,10 @@ int displayDecimals(const QString& text);
 // The text of a number with a pattern and the locale's separators.
 QString displayFormat(double value, const QString& pattern);
 
+// The text of statistic `order` (1 maximum, 2 minimum, 3 mean, 4 standard deviation, 5 the
+// fifth) of a channel: the hole shows message 179; all but the deviation are turned into
+// engineering units (the deviation of percent data stays in percent); maximum and minimum take
+// the channel's format, the others the plain one.
+QString statisticText(int viewNumber, int channel, int order, double value);
+
 } // namespace ChannelTexts

@@ -17,15 +17,6 @@ QString channelHeader(const ChannelTable& ch, int channel) {
     return tag + QStringLiteral("\n[") + unit + QLatin1Char(']');
 }
 
-// The text of one statistic: the hole shows message 179; the standard deviation stays in the
-// plotted units.
-QString statisticText(int view, int channel, int column, double value) {
-    if (value == Chart::kHoleValue) return MsgText(179);
-    if (column != 7) value = ScaleToEngineering(value, view, channel);
-    const int code = column <= 5 ? ChannelTexts::formatCode(view, channel) : 0;
-    return ChannelValueText(value, code);
-}
-
 } // namespace
 
 void CursorSideGrid::build() {
@@ -74,7 +65,7 @@ void CursorSideGrid::statistics() {
         const double values[] = {s.Maximum, s.Minimum, s.Mean, s.StdDev, s.Stat5};
         for (int col = 4; col <= kColumns; ++col)
             grid_.setText(kFirstChannelRow + i - 1, col,
-                          statisticText(view, i, col, values[col - 4]));
+                          ChannelTexts::statisticText(view, i, col - 3, values[col - 4]));
     }
     notify();
 }

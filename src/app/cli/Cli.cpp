@@ -26,6 +26,8 @@ const char* const kUsage =
     "                                    the data list as CSV, tab-separated text or a workbook\n"
     "  recview batch [--json] [--gs] FILE...\n"
     "                                    the batch name, lot number and texts of a recording\n"
+    "  recview stats [--gs] FILE... [--cursors A,B] [--json]\n"
+    "                                    the marker view: values at the cursors, five statistics\n"
     "  recview collect [--settings FILE] [--port N] [--row N]...\n"
     "                                    one FTP collection pass over the configured rows\n"
     "  recview --version | --help\n";

@@ -8,10 +8,11 @@ extern const Verb kDumpVerb;
 extern const Verb kExportVerb;
 extern const Verb kInfoVerb;
 extern const Verb kRenderVerb;
+extern const Verb kStatsVerb;
 
 const Verb* findVerb(const QString& name) {
-    static const Verb* const kVerbs[] = {&kBatchVerb,  &kCollectVerb, &kDumpVerb,
-                                         &kExportVerb, &kInfoVerb,    &kRenderVerb};
+    static const Verb* const kVerbs[] = {&kBatchVerb, &kCollectVerb, &kDumpVerb, &kExportVerb,
+                                         &kInfoVerb,  &kRenderVerb,  &kStatsVerb};
     for (const Verb* verb : kVerbs)
         if (name == QLatin1String(verb->name)) return verb;
     return nullptr;
