@@ -1,5 +1,6 @@
 #include "analysis/widgets/frmBatchInfo.h"
 #include "analysis/widgets/frmItiran.h"
+#include "analysis/widgets/frmMarkerView.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
 #include "app/widgets/AppIcon.h"
@@ -46,6 +47,7 @@ int main(int argc, char** argv) {
     installSavedTrendSettings();
     installDataList();
     installBatchInfo();
+    installMarkerView();
     installListExport();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;

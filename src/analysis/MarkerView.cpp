@@ -166,10 +166,12 @@ bool MarkerView::calculateMarker() {
 
 void MarkerView::cursorMoved(int cursor, qint32 point) {
     MarkABset(cursor, point);
-    if (!autoCalc()) return;
-    const auto& points = view_.state().CursorPoint;
-    BuildMarkerSeries(points[0], points[1]);
-    markerFill();
+    if (autoCalc()) {
+        const auto& points = view_.state().CursorPoint;
+        BuildMarkerSeries(points[0], points[1]);
+        markerFill();
+    }
+    if (changed) changed();
 }
 
 bool MarkerView::stepCursor(int cursor, int step) {

@@ -4,7 +4,9 @@
 #include "analysis/MarkerViewState.h"
 
 #include <QString>
+
 #include <QtGlobal>
+#include <functional>
 
 class TrendCursors;
 class TrendView;
@@ -65,6 +67,9 @@ public:
     // disp_1 and disp_2: the two statistic groups shown or hidden.
     void setShowAll(bool on);
     void setShowMarker(bool on);
+
+    // Told after a cursor move has rewritten cells (the window redraws them).
+    std::function<void()> changed;
 
     // The tip of a red cell of columns 1 and 2 (row above 1); empty otherwise.
     QString alarmTip(int col, qint32 row);

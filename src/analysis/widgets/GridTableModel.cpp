@@ -17,15 +17,17 @@ GridTableModel::GridTableModel(GridModel& grid, QObject* parent)
         }
         Q_EMIT shapeChanged();
     };
-    grid_.cellsChanged = [this] {
-        if (rowCount() > 0 && columnCount() > 0)
-            Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-    };
+    grid_.cellsChanged = [this] { cellsWritten(); };
 }
 
 GridTableModel::~GridTableModel() {
     grid_.shapeChanged = nullptr;
     grid_.cellsChanged = nullptr;
+}
+
+void GridTableModel::cellsWritten() {
+    if (rowCount() > 0 && columnCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
 int GridTableModel::rowCount(const QModelIndex& parent) const {
@@ -45,6 +47,10 @@ QVariant GridTableModel::data(const QModelIndex& index, int role) const {
         return grid_.text(col, row);
     case Qt::ForegroundRole:
         return WinColor::toQColor(grid_.foreColor(col, row));
+    case Qt::BackgroundRole: {
+        const QColor c = background ? background(col, row) : QColor();
+        return c.isValid() ? QVariant(c) : QVariant();
+    }
     case Qt::ToolTipRole: {
         const QString tip = textTip ? textTip(col, row) : QString();
         return tip.isEmpty() ? QVariant() : QVariant(tip);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QColor>
 
 #include <functional>
 
@@ -23,6 +24,10 @@ public:
 
     // The tip of a cell (grid column and row); empty for none.
     std::function<QString(int col, qint32 row)> textTip;
+    // The background of a cell; an invalid colour for the view's own.
+    std::function<QColor(int col, qint32 row)> background;
+    // The cells were written outside a fill: the view draws them again.
+    void cellsWritten();
 
 Q_SIGNALS:
     // Rows, columns, headers, widths or hidden columns of the grid changed.

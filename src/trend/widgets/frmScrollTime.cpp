@@ -138,6 +138,9 @@ frmScrollTime::frmScrollTime(int viewNumber, QWidget* parent)
 }
 
 frmScrollTime::~frmScrollTime() {
+    // Windows of the view (list, marker view, batch table) hold its logic: they go first.
+    for (QWidget* w : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (w->isWindow()) delete w;
     // The logic may outlive no window: its hooks point into this one.
     trend_->window() = TrendWindowState();
     // The side grid shows the cursors' grid, which goes before the child widgets would.
@@ -162,19 +165,23 @@ void frmScrollTime::buildToolbars() {
     QAction* close = toolbar1->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton),
                                          TrendCaption(MsgId(605), "Close data"));
     connect(close, &QAction::triggered, this, [this] { toolbar1Command(1); });
-    if (toolbar1Windows().count(5)) {
-        QAction* list = toolbar1->addAction(
-            style()->standardIcon(QStyle::SP_FileDialogDetailedView), MsgText(174));
-        list->setObjectName(QStringLiteral("Toolbar1_5"));
-        connect(list, &QAction::triggered, this, [this] { toolbar1Command(5); });
-    }
-    if (toolbar1Windows().count(13)) {
-        // The batch information, enabled only while the recording has it.
-        QAction* batch = toolbar1->addAction(style()->standardIcon(QStyle::SP_FileDialogInfoView),
-                                             QStringLiteral("Batch"));
-        batch->setObjectName(QStringLiteral("Toolbar1_13"));
-        batch->setEnabled(false);
-        connect(batch, &QAction::triggered, this, [this] { toolbar1Command(13); });
+    // The windows other subsystems install: the data list, the marker view, the batch table.
+    const struct {
+        int number;
+        QStyle::StandardPixmap icon;
+        QString caption;
+    } windows[] = {
+        {5, QStyle::SP_FileDialogDetailedView, MsgText(174)},
+        {6, QStyle::SP_FileDialogListView, MsgText(78)},
+        {13, QStyle::SP_FileDialogInfoView, QStringLiteral("Batch")},
+    };
+    for (const auto& w : windows) {
+        if (!toolbar1Windows().count(w.number)) continue;
+        QAction* action = toolbar1->addAction(style()->standardIcon(w.icon), w.caption);
+        action->setObjectName(QStringLiteral("Toolbar1_%1").arg(w.number));
+        // The batch information is there only while the recording has it.
+        if (w.number == 13) action->setEnabled(false);
+        connect(action, &QAction::triggered, this, [this, n = w.number] { toolbar1Command(n); });
     }
 
     Toolbar2_ = new QToolBar(this);
