@@ -4,6 +4,7 @@
 #include "base/LanguageTable.h"
 #include "base/ShowMsg.h"
 #include "platform/ChartModel.h"
+#include "platform/SeriesWork.h"
 #include "recording/ViewState.h"
 #include "trend/ChannelTexts.h"
 #include "trend/CursorReadout.h"
@@ -11,6 +12,7 @@
 #include "trend/TrendView.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -97,7 +99,10 @@ void MarkerView::clearCursorColumn(int cursor) {
 
 void MarkerView::All_Cal_Set() {
     const ChartModel& chart = view_.chart();
-    for (int i = 1; i <= channels() && i <= chart.seriesCount(); ++i) {
+    const int n = std::min(channels(), chart.seriesCount());
+    // The chart caches the statistics of every series: they are filled on two threads first.
+    forEachSeries(1, n, [&chart](int s) { chart.Maximum(s); });
+    for (int i = 1; i <= n; ++i) {
         const double values[] = {chart.Maximum(i), chart.Minimum(i), chart.Mean(i), chart.StdDev(i),
                                  chart.Stat5(i)};
         for (int k = 0; k < 5; ++k)
@@ -139,10 +144,14 @@ void MarkerView::markerFill() {
     const ChartModel& chart = view_.chart();
     const int n = channels();
     const bool valid = state().StatisticsValid && chart.seriesCount() >= 2 * n + kMarkerOffset;
+    std::vector<SeriesStatistics> stats(static_cast<size_t>(n));
+    if (valid)
+        forEachSeries(1, n, [&](int i) {
+            const int s = n + kMarkerOffset + i;
+            stats[size_t(i - 1)] = chart.statistics(s, 1, chart.pointCount(s));
+        });
     for (int i = 1; i <= n; ++i) {
-        const int s = n + kMarkerOffset + i;
-        const SeriesStatistics st =
-            valid ? chart.statistics(s, 1, chart.pointCount(s)) : SeriesStatistics();
+        const SeriesStatistics& st = stats[size_t(i - 1)];
         const double values[] = {st.Maximum, st.Minimum, st.Mean, st.StdDev, st.Stat5};
         for (int k = 0; k < 5; ++k) {
             grid_.setText(kMarkerFirst + k, i + 1,

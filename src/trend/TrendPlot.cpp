@@ -4,7 +4,7 @@
 #include "base/Progress.h"
 #include "base/ShowMsg.h"
 #include "base/WinColor.h"
-#include "platform/PyramidBuilds.h"
+#include "platform/SeriesWork.h"
 #include "recording/SampleRules.h"
 #include "trend/LineSeriesSource.h"
 #include "trend/PlotValue.h"

@@ -1,4 +1,4 @@
-#include "platform/PyramidBuilds.h"
+#include "platform/SeriesWork.h"
 
 #include "platform/ChartModel.h"
 
@@ -6,17 +6,17 @@
 #include <exception>
 #include <thread>
 
-void buildPyramids(const ChartModel& chart, int first, int last,
-                   const std::function<void(int done)>& onBuilt) {
+void forEachSeries(int first, int last, const std::function<void(int s)>& work,
+                   const std::function<void(int done)>& onDone) {
     std::atomic<int> next{first};
     std::atomic<int> done{0};
     std::atomic<bool> failed{false};
-    // Takes series one at a time until none is left or a build failed.
-    const auto work = [&](bool reports) {
+    // Takes series one at a time until none is left or a work failed.
+    const auto run = [&](bool reports) {
         for (int s = next++; s <= last && !failed; s = next++) {
-            chart.series(s).pyramid();
+            work(s);
             const int d = ++done;
-            if (reports) onBuilt(d);
+            if (reports && onDone) onDone(d);
         }
     };
     std::exception_ptr workerError;
@@ -24,14 +24,14 @@ void buildPyramids(const ChartModel& chart, int first, int last,
     if (last > first && std::thread::hardware_concurrency() >= 2)
         worker = std::thread([&] {
             try {
-                work(false);
+                run(false);
             } catch (...) {
                 workerError = std::current_exception();
                 failed = true;
             }
         });
     try {
-        work(true);
+        run(true);
     } catch (...) {
         failed = true;
         if (worker.joinable()) worker.join();
@@ -39,5 +39,11 @@ void buildPyramids(const ChartModel& chart, int first, int last,
     }
     if (worker.joinable()) worker.join();
     if (workerError) std::rethrow_exception(workerError);
-    onBuilt(done);
+    if (onDone) onDone(done);
+}
+
+void buildPyramids(const ChartModel& chart, int first, int last,
+                   const std::function<void(int done)>& onBuilt) {
+    forEachSeries(
+        first, last, [&chart](int s) { chart.series(s).pyramid(); }, onBuilt);
 }

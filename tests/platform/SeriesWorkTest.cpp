@@ -1,7 +1,7 @@
 #include "ChartTestSources.h"
 
 #include "platform/ChartModel.h"
-#include "platform/PyramidBuilds.h"
+#include "platform/SeriesWork.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ std::vector<double> ramp(int n, double offset) {
     return v;
 }
 
-TEST(PyramidBuilds, EverySeriesGetsTheRangesOfItsOwnValuesAndProgressEndsAtTheCount) {
+TEST(SeriesWork, EverySeriesGetsTheRangesOfItsOwnValuesAndProgressEndsAtTheCount) {
     ChartModel chart;
     chart.setSeriesCount(9);
     for (int s = 1; s <= 9; ++s)
@@ -40,7 +40,7 @@ TEST(PyramidBuilds, EverySeriesGetsTheRangesOfItsOwnValuesAndProgressEndsAtTheCo
     EXPECT_EQ(reported.back(), 9);
 }
 
-TEST(PyramidBuilds, AFailedBuildOnEitherThreadIsThrownToTheCaller) {
+TEST(SeriesWork, AFailedBuildOnEitherThreadIsThrownToTheCaller) {
     for (int failing : {1, 2, 8}) {
         ChartModel chart;
         chart.setSeriesCount(8);

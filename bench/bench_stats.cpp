@@ -1,0 +1,87 @@
+// The marker view's statistics over the 64-channel benchmark recording (1,000,000 rows):
+// All_Cal_Set (five statistics of every channel's whole data), the marker statistics between
+// cursors 500,000 points apart (button 8), and a cursor step with MarkerAutoCalc off.
+#include "BenchFiles.h"
+
+#include "analysis/GridModel.h"
+#include "analysis/MarkerView.h"
+#include "recording/CommandFiles.h"
+#include "recording/RecordingLoader.h"
+#include "recording/SelectionLists.h"
+#include "trend/TrendCursors.h"
+#include "trend/TrendView.h"
+
+#include <QCoreApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+std::unique_ptr<TrendView> gView;
+std::unique_ptr<TrendCursors> gCursors;
+
+bool loadView(const QStringList& files) {
+    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(files), false);
+    copySelectionToView(views(1));
+    if (!LoadRecording(views(1), LoadOptions()).ok()) return false;
+    gView = std::make_unique<TrendView>(1);
+    if (!gView->afterLoad()) return false;
+    gCursors = std::make_unique<TrendCursors>(*gView);
+    gCursors->afterLoad();
+    return gCursors->place(1, 250000) && gCursors->place(2, 750000);
+}
+
+// Every series' statistics are computed afresh: the cache of the chart is dropped first.
+void BM_AllCalSet(benchmark::State& state) {
+    GridModel grid;
+    MarkerView marker(*gView, *gCursors, grid);
+    marker.load();
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (int s = 1; s <= 64; ++s) gView->chart().refreshSeries(s);
+        state.ResumeTiming();
+        marker.All_Cal_Set();
+    }
+}
+BENCHMARK(BM_AllCalSet)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+void BM_MarkerStatistics500k(benchmark::State& state) {
+    GridModel grid;
+    MarkerView marker(*gView, *gCursors, grid);
+    marker.load();
+    for (auto _ : state) marker.ToolbarSet(8);
+}
+BENCHMARK(BM_MarkerStatistics500k)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+void BM_CursorStepWithoutAutoCalc(benchmark::State& state) {
+    GridModel grid;
+    MarkerView marker(*gView, *gCursors, grid);
+    marker.load();
+    marker.setAutoCalc(false);
+    int step = 1;
+    for (auto _ : state) {
+        marker.ToolbarSet(step == 1 ? 2 : 1);
+        step = -step;
+    }
+}
+BENCHMARK(BM_CursorStepWithoutAutoCalc)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    const QStringList files = BenchFiles::ensureRecording(
+        qEnvironmentVariable("RECVIEW_BENCH_DIR", BenchFiles::defaultDir()));
+    if (files.isEmpty() || !loadView(files)) {
+        std::fprintf(stderr, "bench_stats: the benchmark recording could not be loaded\n");
+        return 1;
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    gCursors.reset();
+    gView.reset();
+    return 0;
+}
