@@ -7,7 +7,7 @@
 #include "app/widgets/DesktopStartup.h"
 #include "base/ShowMsg.h"
 #include "base/widgets/frmMessageBox.h"
-#include "print/widgets/ListExportCommands.h"
+#include "print/widgets/ExportCommands.h"
 #include "savedwork/SavedTrendSettings.h"
 
 #include <QApplication>
@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     installDataList();
     installBatchInfo();
     installMarkerView();
-    installListExport();
+    installExportCommands();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
     setMessageSink(nullptr);

@@ -1,4 +1,4 @@
-#include "ListFixture.h"
+#include "MarkerFixture.h"
 
 #include "analysis/MarkerView.h"
 #include "base/LanguageTable.h"
@@ -14,23 +14,6 @@ using cursortest::shown;
 namespace {
 
 const QString kHole = MsgText(179);
-
-// A recording opened into view 1 with its cursors and its marker view, as the window holds
-// them.
-struct MarkerFixture {
-    explicit MarkerFixture(const fixtures::VxfDescription& d)
-        : list(d), cursors(*list.view), marker(*list.view, cursors, grid) {
-        cursors.afterLoad();
-        marker.load();
-    }
-    QString cell(int col, int row) { return grid.text(col, row); }
-    TrendViewState& state() { return list.view->state(); }
-
-    ListView list;
-    TrendCursors cursors;
-    GridModel grid;
-    MarkerView marker;
-};
 
 // Channel 1 holds 1, 2, a hole, 4, 10 (one decimal: raw ten times); channel 2 is all holes.
 fixtures::VxfDescription handWorked() {

@@ -22,7 +22,7 @@ const char* const kUsage =
     "                 [--from \"YYYY-MM-DD hh:mm:ss\"] [--to \"YYYY-MM-DD hh:mm:ss\"]\n"
     "                                    the trend chart of the recording as an image\n"
     "  recview export [--gs] FILE... -o OUT.csv|OUT.txt|OUT.xlsx [--rows all|cursors|visible]\n"
-    "                 [--cursors A,B] [--from T] [--to T] [--skip N] [--hide CH,...]\n"
+    "                 [--cursors A,B] [--from T] [--to T] [--skip N] [--hide CH,...] [--marker]\n"
     "                                    the data list as CSV, tab-separated text or a workbook\n"
     "  recview batch [--json] [--gs] FILE...\n"
     "                                    the batch name, lot number and texts of a recording\n"

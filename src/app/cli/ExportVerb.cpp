@@ -1,5 +1,6 @@
 #include "analysis/DataList.h"
 #include "analysis/GridModel.h"
+#include "analysis/MarkerView.h"
 #include "analysis/SkipCount.h"
 #include "app/cli/CliRange.h"
 #include "app/cli/CliRecording.h"
@@ -9,6 +10,7 @@
 #include "print/ExportKind.h"
 #include "print/ListFileWriter.h"
 #include "print/ListWorkbookWriter.h"
+#include "print/MarkerFileWriter.h"
 #include "trend/TrendCursors.h"
 #include "trend/TrendView.h"
 
@@ -104,6 +106,29 @@ bool hideChannels(TrendView& view, const QString& text, QString& error) {
     return true;
 }
 
+// --marker: the marker view with both groups shown and, with both cursors placed, the
+// statistics between them as button 8 makes them.
+int writeMarker(TrendView& view, TrendCursors& cursors, const ExportArgs& e, ExportKind::Kind kind,
+                bool workbook, QTextStream& err) {
+    if (workbook) {
+        err << "recview export: the marker view is written as CSV or text only\n";
+        return 2;
+    }
+    GridModel grid;
+    MarkerView marker(view, cursors, grid);
+    marker.state().ShowAll = marker.state().ShowMarker = true;
+    marker.load();
+    const auto& points = view.state().CursorPoint;
+    for (int c = 1; c <= 2; ++c)
+        if (points[size_t(c - 1)] > 0) marker.MarkABset(c, points[size_t(c - 1)]);
+    if (points[0] > 0 && points[1] > 0) marker.ToolbarSet(8);
+    if (!WriteMarkerFile(marker, kind, e.out)) {
+        err << messageText(562) << "\n" << e.out << "\n";
+        return 1;
+    }
+    return 0;
+}
+
 int runExport(const QStringList& input) {
     QTextStream err(stderr);
     QStringList args = input;
@@ -116,7 +141,6 @@ int runExport(const QStringList& input) {
     if (!takeExportArgs(args, e, error)) return usage(error);
     const int rowSet = rowSetOf(e, error);
     if (rowSet == 0) return usage(error);
-    if (e.marker) return usage(QStringLiteral("--marker is not available in this version"));
     const bool workbook = ExportKind::isWorkbook(e.out);
     const ExportKind::Kind kind = ExportKind::ofName(e.out);
     if (!workbook && kind == ExportKind::Csv &&
@@ -139,6 +163,7 @@ int runExport(const QStringList& input) {
     if (!hideChannels(view, e.hide, error) || !applyTimeRange(view, e.from, e.to, error) ||
         !placeCursors(cursors, e.cursors, view.tables().PointCount, error))
         return usage(error);
+    if (e.marker) return writeMarker(view, cursors, e, kind, workbook, err);
     GridModel grid;
     DataList list(view, grid);
     list.load();

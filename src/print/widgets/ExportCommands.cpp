@@ -1,7 +1,8 @@
-#include "print/widgets/ListExportCommands.h"
+#include "print/widgets/ExportCommands.h"
 
 #include "analysis/DataList.h"
 #include "analysis/widgets/frmItiran.h"
+#include "analysis/widgets/frmMarkerView.h"
 #include "base/AppPaths.h"
 #include "base/LanguageTable.h"
 #include "base/ShowMsg.h"
@@ -10,6 +11,7 @@
 #include "print/ExportKind.h"
 #include "print/ListFileWriter.h"
 #include "print/ListWorkbookWriter.h"
+#include "print/MarkerFileWriter.h"
 #include "recording/widgets/frmProgress.h"
 #include "trend/TrendView.h"
 
@@ -30,28 +32,52 @@ QString qtFilter(const QString& filter) {
     return out.join(QStringLiteral(";;"));
 }
 
-void writeListFile(frmItiran& window) {
-    DataList& list = window.list();
+// The save dialog of a text export: CSV and TXT, or TXT alone where the decimal separator is a
+// comma; "" when cancelled or when a CSV name is given there.
+QString askTextFile(QWidget* parent, const QString& caption, ExportKind::Kind& kind) {
     const QString dec = clsConst::shared().DecimalSeparator();
-    const QString title = clsLibrary::getFileTitleEx(list.trendView().window().Caption);
-    const QString path = QFileDialog::getSaveFileName(&window, QString(), title,
-                                                      qtFilter(ExportKind::dialogFilter(dec)));
-    if (path.isEmpty()) return;
-    const ExportKind::Kind kind = ExportKind::ofName(path);
-    bool ok = false;
-    if (kind == ExportKind::Txt || ExportKind::csvAllowed(dec)) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        frmProgress progress(&window);
-        progress.show();
-        ok = WriteListFile(list, kind, path, &progress);
-        QApplication::restoreOverrideCursor();
+    const QString path =
+        QFileDialog::getSaveFileName(parent, QString(), clsLibrary::getFileTitleEx(caption),
+                                     qtFilter(ExportKind::dialogFilter(dec)));
+    kind = ExportKind::ofName(path);
+    if (!path.isEmpty() && kind == ExportKind::Csv && !ExportKind::csvAllowed(dec)) {
+        ShowMsg(kMsgWarning, MsgText(562) + QStringLiteral("\r\n") + path);
+        return QString();
     }
+    return path;
+}
+
+// The end of a text export: message 563 and the file opened, or message 562 and the path.
+void reportTextFile(bool ok, const QString& path) {
     if (!ok) {
         ShowMsg(kMsgWarning, MsgText(562) + QStringLiteral("\r\n") + path);
         return;
     }
     ShowMsg(kMsgInformation);
     QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void writeListFile(frmItiran& window) {
+    DataList& list = window.list();
+    ExportKind::Kind kind;
+    const QString path = askTextFile(&window, list.trendView().window().Caption, kind);
+    if (path.isEmpty()) return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    frmProgress progress(&window);
+    progress.show();
+    const bool ok = WriteListFile(list, kind, path, &progress);
+    QApplication::restoreOverrideCursor();
+    reportTextFile(ok, path);
+}
+
+void writeMarkerFile(frmMarkerView& window) {
+    ExportKind::Kind kind;
+    const QString path = askTextFile(&window, window.windowTitle(), kind);
+    if (path.isEmpty()) return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const bool ok = WriteMarkerFile(window.marker(), kind, path);
+    QApplication::restoreOverrideCursor();
+    reportTextFile(ok, path);
 }
 
 // The workbook goes to a fresh name in the work folder and opens in the desktop's spreadsheet
@@ -78,7 +104,8 @@ void writeListWorkbook(frmItiran& window) {
 
 } // namespace
 
-void installListExport() {
+void installExportCommands() {
     frmItiran::setOutputCommand(8, writeListFile);
     frmItiran::setOutputCommand(9, writeListWorkbook);
+    frmMarkerView::setOutputCommand(13, writeMarkerFile);
 }
