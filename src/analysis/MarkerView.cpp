@@ -18,11 +18,35 @@ namespace {
 
 constexpr int kAllFirst = 4;
 constexpr int kMarkerFirst = 9;
-constexpr int kMarkerOffset = 14; // marker series N + 14 + i
+constexpr int kMarkerOffset = kMarkerSeriesOffset;
 constexpr qint32 kCircle = 360;
 const QString kCrLf = QStringLiteral("\r\n");
 
 } // namespace
+
+void BuildMarkerSeries(TrendView& view, qint32 a, qint32 b) {
+    ChartModel& chart = view.chart();
+    const int n = std::max<int>(0, view.tables().ChannelCount);
+    if (chart.chartType() == Chart::kTypePolar) {
+        a %= kCircle;
+        b %= kCircle;
+    }
+    qint32 lo = std::min(a, b), hi = std::max(a, b);
+    const bool empty = lo <= 0 || hi <= 0;
+    if (empty) lo = hi = 1;
+    chart.setIsBatched(true);
+    if (chart.seriesCount() != n + kMarkerOffset) chart.setSeriesCount(n + kMarkerOffset);
+    chart.setSeriesCount(2 * n + kMarkerOffset);
+    for (int i = 1; i <= n; ++i) {
+        const int s = n + kMarkerOffset + i;
+        chart.setSeriesView(s, i, lo, hi);
+        if (empty) chart.setY(s, 1, Chart::kHoleValue);
+        chart.setDisplayState(s, Chart::kDisplayHidden);
+        chart.setSeriesInAutoRange(s, false);
+    }
+    chart.setIsBatched(false);
+    views(view.GetGroup()).part<MarkerViewState>().StatisticsValid = true;
+}
 
 MarkerView::MarkerView(TrendView& view, TrendCursors& cursors, GridModel& grid)
     : view_(view), cursors_(cursors), grid_(grid), viewNumber_(view.GetGroup()) {
@@ -117,27 +141,7 @@ void MarkerView::MarkABset(int cursor, qint32 point) {
 }
 
 void MarkerView::BuildMarkerSeries(qint32 a, qint32 b) {
-    ChartModel& chart = view_.chart();
-    const int n = channels();
-    if (chart.chartType() == Chart::kTypePolar) {
-        a %= kCircle;
-        b %= kCircle;
-    }
-    qint32 lo = std::min(a, b), hi = std::max(a, b);
-    const bool empty = lo <= 0 || hi <= 0;
-    if (empty) lo = hi = 1;
-    chart.setIsBatched(true);
-    if (chart.seriesCount() != n + kMarkerOffset) chart.setSeriesCount(n + kMarkerOffset);
-    chart.setSeriesCount(2 * n + kMarkerOffset);
-    for (int i = 1; i <= n; ++i) {
-        const int s = n + kMarkerOffset + i;
-        chart.setSeriesView(s, i, lo, hi);
-        if (empty) chart.setY(s, 1, Chart::kHoleValue);
-        chart.setDisplayState(s, Chart::kDisplayHidden);
-        chart.setSeriesInAutoRange(s, false);
-    }
-    chart.setIsBatched(false);
-    state().StatisticsValid = true;
+    ::BuildMarkerSeries(view_, a, b);
 }
 
 void MarkerView::markerFill() {

@@ -11,6 +11,12 @@
 class TrendCursors;
 class TrendView;
 
+// The marker series N + 14 + i of a view: channel i between points a and b (range views on the
+// channel series, hidden). In the circular graph a and b count within the circle (360 is 0);
+// an unplaced end gives the range 1..1 with a hole. The view's marker statistics are valid then.
+void BuildMarkerSeries(TrendView& view, qint32 a, qint32 b);
+inline constexpr int kMarkerSeriesOffset = 14; // marker series N + 14 + i
+
 // The marker view of one view (frmMarkerView without its window): a row a channel with the
 // values at cursors A and B, their difference, the five statistics of all data (columns 4..8)
 // and those between the cursors (9..13, from the marker series N + 14 + i).

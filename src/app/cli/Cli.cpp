@@ -28,6 +28,9 @@ const char* const kUsage =
     "                                    the batch name, lot number and texts of a recording\n"
     "  recview stats [--gs] FILE... [--cursors A,B] [--json]\n"
     "                                    the marker view: values at the cursors, five statistics\n"
+    "  recview search [--gs] FILE... --kind K [--channel C|all] [--item I] [--option O]\n"
+    "                 [--text1 T] [--text2 T] [--from T] [--to T] [--cursors A,B] [--level L]\n"
+    "                 [--json]            the points that meet one condition\n"
     "  recview collect [--settings FILE] [--port N] [--row N]...\n"
     "                                    one FTP collection pass over the configured rows\n"
     "  recview --version | --help\n";

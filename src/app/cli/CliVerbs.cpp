@@ -8,11 +8,12 @@ extern const Verb kDumpVerb;
 extern const Verb kExportVerb;
 extern const Verb kInfoVerb;
 extern const Verb kRenderVerb;
+extern const Verb kSearchVerb;
 extern const Verb kStatsVerb;
 
 const Verb* findVerb(const QString& name) {
-    static const Verb* const kVerbs[] = {&kBatchVerb, &kCollectVerb, &kDumpVerb, &kExportVerb,
-                                         &kInfoVerb,  &kRenderVerb,  &kStatsVerb};
+    static const Verb* const kVerbs[] = {&kBatchVerb, &kCollectVerb, &kDumpVerb,   &kExportVerb,
+                                         &kInfoVerb,  &kRenderVerb,  &kSearchVerb, &kStatsVerb};
     for (const Verb* verb : kVerbs)
         if (name == QLatin1String(verb->name)) return verb;
     return nullptr;
