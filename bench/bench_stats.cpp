@@ -1,10 +1,11 @@
-// The marker view's statistics over the 64-channel benchmark recording (1,000,000 rows):
-// All_Cal_Set (five statistics of every channel's whole data), the marker statistics between
+// The marker view's statistics and the search over the 64-channel benchmark recording (1,000,000
+// rows): All_Cal_Set (five statistics of every channel's whole data), the marker statistics between
 // cursors 500,000 points apart (button 8), and a cursor step with MarkerAutoCalc off.
 #include "BenchFiles.h"
 
 #include "analysis/GridModel.h"
 #include "analysis/MarkerView.h"
+#include "analysis/Search.h"
 #include "recording/CommandFiles.h"
 #include "recording/RecordingLoader.h"
 #include "recording/SelectionLists.h"
@@ -68,6 +69,33 @@ void BM_CursorStepWithoutAutoCalc(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_CursorStepWithoutAutoCalc)->Unit(benchmark::kMicrosecond);
+
+// Kind 5, option 1 (>=) over all 64 channels: one read and one compare a point.
+void BM_SearchValueAllChannels(benchmark::State& state) {
+    Search::Input in;
+    in.kind = Search::SearchKindValue;
+    in.channelItem = 64; // all channels
+    in.option = 1;
+    in.text1 = QStringLiteral("600");
+    size_t hits = 0;
+    for (auto _ : state) hits = Search::run(*gView, in).hits.size();
+    state.counters["hits"] = double(hits);
+}
+BENCHMARK(BM_SearchValueAllChannels)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+// Kind 0 over all channels with the statistics computed afresh.
+void BM_SearchMaximumAllChannels(benchmark::State& state) {
+    Search::Input in;
+    in.kind = Search::KindMaximum;
+    in.channelItem = 64;
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (int s = 1; s <= 64; ++s) gView->chart().refreshSeries(s);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(Search::run(*gView, in).hits.size());
+    }
+}
+BENCHMARK(BM_SearchMaximumAllChannels)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace
 
