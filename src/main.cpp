@@ -1,6 +1,7 @@
 #include "analysis/widgets/frmBatchInfo.h"
 #include "analysis/widgets/frmItiran.h"
 #include "analysis/widgets/frmMarkerView.h"
+#include "analysis/widgets/frmSearch.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
 #include "app/widgets/AppIcon.h"
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
     installDataList();
     installBatchInfo();
     installMarkerView();
+    installSearch();
     installExportCommands();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;

@@ -173,6 +173,7 @@ void frmScrollTime::buildToolbars() {
     } windows[] = {
         {5, QStyle::SP_FileDialogDetailedView, MsgText(174)},
         {6, QStyle::SP_FileDialogListView, MsgText(78)},
+        {7, QStyle::SP_FileDialogContentsView, MsgText(68)},
         {13, QStyle::SP_FileDialogInfoView, QStringLiteral("Batch")},
     };
     for (const auto& w : windows) {
