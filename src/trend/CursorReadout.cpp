@@ -96,7 +96,7 @@ QString markerAlarmTip(int viewNumber, int cursor, qint32 point, int channel) {
         const qint32 kind = table(level, point, channel);
         if (kind == 0) continue;
         any = true;
-        tip += QLatin1Char('\n') + MsgText(229) + QString::number(level) + QLatin1Char(' ') +
+        tip += QStringLiteral("\r\n") + MsgText(229) + QString::number(level) + QLatin1Char(' ') +
                AlarmKindText(kind);
     }
     return any ? tip.trimmed() : QString();

@@ -40,8 +40,8 @@ void writeDifference(TrendView& view, ReadoutCells& grid, int row, int channel);
 // The first alarm level set at (point, channel), 0 when none.
 int firstAlarmLevel(int viewNumber, qint32 point, int channel);
 
-// The tool tip of the marker view's red cells: message 8 or 9, then a line per set level with
-// message 229, the level and the alarm kind.
+// The tool tip of the marker view's red cells: message 8 or 9, then a line (CR LF) per set level
+// with message 229, the level and the alarm kind.
 QString markerAlarmTip(int viewNumber, int cursor, qint32 point, int channel);
 
 } // namespace CursorReadout

@@ -4,6 +4,7 @@
 #include "analysis/widgets/frmMarkerViewSetting.h"
 #include "base/LanguageTable.h"
 #include "base/WinColor.h"
+#include "base/clsCommon.h"
 #include "trend/TrendCursors.h"
 #include "trend/widgets/frmScrollTime.h"
 
@@ -171,6 +172,7 @@ void frmMarkerView::ToolbarSet(int button) {
     }
     case 15:
         if (QAction* top = menu("gamen_1")) top->setChecked(false);
+        clsCommon::shared().ShowHelp(objectName());
         break;
     case 10:
     case 11:
