@@ -1,6 +1,8 @@
 #include "analysis/widgets/frmBatchInfo.h"
+#include "analysis/widgets/frmCalcLineSet.h"
 #include "analysis/widgets/frmItiran.h"
 #include "analysis/widgets/frmMarkerView.h"
+#include "analysis/widgets/frmRECSUB.h"
 #include "analysis/widgets/frmSearch.h"
 #include "app/SubMain.h"
 #include "app/cli/Cli.h"
@@ -50,6 +52,8 @@ int main(int argc, char** argv) {
     installBatchInfo();
     installMarkerView();
     installSearch();
+    installChannelSettings();
+    installCalcLines();
     installExportCommands();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;

@@ -165,16 +165,19 @@ void frmScrollTime::buildToolbars() {
     QAction* close = toolbar1->addAction(style()->standardIcon(QStyle::SP_DialogCloseButton),
                                          TrendCaption(MsgId(605), "Close data"));
     connect(close, &QAction::triggered, this, [this] { toolbar1Command(1); });
-    // The windows other subsystems install: the data list, the marker view, the batch table.
+    // The windows other subsystems install: channel settings, data list, marker view, search,
+    // batch table, calculation lines.
     const struct {
         int number;
         QStyle::StandardPixmap icon;
         QString caption;
     } windows[] = {
+        {4, QStyle::SP_FileDialogListView, MsgText(234)},
         {5, QStyle::SP_FileDialogDetailedView, MsgText(174)},
         {6, QStyle::SP_FileDialogListView, MsgText(78)},
         {7, QStyle::SP_FileDialogContentsView, MsgText(68)},
         {13, QStyle::SP_FileDialogInfoView, QStringLiteral("Batch")},
+        {18, QStyle::SP_FileDialogBack, MsgText(71) + QStringLiteral(" / ") + MsgText(73)},
     };
     for (const auto& w : windows) {
         if (!toolbar1Windows().count(w.number)) continue;
