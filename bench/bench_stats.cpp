@@ -1,8 +1,10 @@
 // The marker view's statistics and the search over the 64-channel benchmark recording (1,000,000
 // rows): All_Cal_Set (five statistics of every channel's whole data), the marker statistics between
-// cursors 500,000 points apart (button 8), and a cursor step with MarkerAutoCalc off.
+// cursors 500,000 points apart (button 8), a cursor step with MarkerAutoCalc off, the search,
+// and channel settings that derive 64 lines C = A - B.
 #include "BenchFiles.h"
 
+#include "analysis/ChannelSettings.h"
 #include "analysis/GridModel.h"
 #include "analysis/MarkerView.h"
 #include "analysis/Search.h"
@@ -96,6 +98,23 @@ void BM_SearchMaximumAllChannels(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_SearchMaximumAllChannels)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+// Channel settings applied with 64 lines C = A - B (each channel minus its neighbour) and the
+// statistics of every line taken, so that each point is computed.
+void BM_ApplyDerived64(benchmark::State& state) {
+    int round = 0;
+    for (auto _ : state) {
+        ChannelSettings settings(*gView);
+        for (int c = 1; c <= 64; ++c) {
+            settings.line(c).secondColumn = qint16(round % 2 == 0 ? c % 64 + 1 : 0);
+            settings.line(c).addFlag = false;
+        }
+        settings.apply();
+        for (int c = 1; c <= 64; ++c) benchmark::DoNotOptimize(gView->chart().Maximum(c));
+        ++round;
+    }
+}
+BENCHMARK(BM_ApplyDerived64)->Unit(benchmark::kMillisecond)->Iterations(4);
 
 } // namespace
 

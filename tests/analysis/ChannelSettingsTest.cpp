@@ -2,6 +2,7 @@
 
 #include "analysis/ChannelSettings.h"
 #include "support/NpWriter.h"
+#include "trend/PlotValue.h"
 
 using namespace listtest;
 
@@ -15,7 +16,7 @@ TEST(ChannelSettings, OkWithoutAChangeDoesNotReplotAndATagReachesTheLegend) {
     EXPECT_EQ(settings.rowCount(), 128);
     EXPECT_FALSE(settings.needsReplot());
     settings.setTag(1, QStringLiteral("Kiln temperature long name"));
-    EXPECT_FALSE(settings.apply());                                           // stored, no replot
+    EXPECT_FALSE(settings.apply());                                            // stored, no replot
     EXPECT_EQ(views(1).Channels.ChTag[1], QStringLiteral("Kiln temperature")); // 16 characters
     EXPECT_EQ(v.chart().series(1).label, QStringLiteral("Kiln temperature"));
 }
@@ -48,6 +49,26 @@ TEST(ChannelSettings, SourcesSecondColumnsAndConstants) {
         EXPECT_TRUE(settings.apply());
     }
     EXPECT_DOUBLE_EQ(chart.Y(1, 7), 7);
+}
+
+// Derived lines come from the store's raw values; they give the very doubles that reading the
+// cells' texts gives (status cells, sums of one-decimal values, a constant).
+TEST(ChannelSettings, DerivedLinesEqualTheCellTextRoad) {
+    fixtures::VxfDescription d = twoChannels(40);
+    for (int r = 0; r < 40; ++r) d.rows[r][0].value = qint16(r * 37 % 101 - 50);
+    d.rows[5][0].value = 32766; // BURN
+    d.rows[9][1].value = 32761; // blanks
+    ListView v(d);
+    ChannelSettings settings(*v.view);
+    settings.line(1).secondColumn = 2;
+    settings.line(1).addFlag = false;
+    settings.line(2).constant = QStringLiteral("0.3");
+    ASSERT_TRUE(settings.apply());
+    const TrendViewState& st = v.view->state();
+    for (int line = 1; line <= 2; ++line)
+        for (qint32 p = 1; p <= 40; ++p)
+            EXPECT_EQ(v.chart().Y(line, p), PlotValue(views(1).Storage, st.Lines[size_t(line)], p))
+                << line << " " << p;
 }
 
 TEST(ChannelSettings, ScaleTextsAndTheRowsOfAnN5fView) {
