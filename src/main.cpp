@@ -11,6 +11,7 @@
 #include "base/ShowMsg.h"
 #include "base/widgets/frmMessageBox.h"
 #include "print/widgets/ExportCommands.h"
+#include "print/widgets/PrintCommands.h"
 #include "savedwork/SavedTrendSettings.h"
 
 #include <QApplication>
@@ -55,6 +56,7 @@ int main(int argc, char** argv) {
     installChannelSettings();
     installCalcLines();
     installExportCommands();
+    installPrintCommands();
     DesktopStartup host(args);
     const int code = SubMain(host) == StartResult::Started ? QApplication::exec() : 0;
     setMessageSink(nullptr);

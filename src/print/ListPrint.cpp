@@ -18,6 +18,7 @@ clsSpreadPrint engine(GridModel& grid, const ListPrintSettings& s) {
     p.PrintFooter = s.footer;
     p.FromPage = s.fromPage;
     p.ToPage = s.toPage;
+    p.PrintType = s.selection ? 1 : 0;
     p.RightMargin = 0;
     p.TopMargin = 30;
     p.Font.name = LanguageFont();

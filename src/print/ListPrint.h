@@ -15,6 +15,7 @@ struct ListPrintSettings {
     QString header;
     QString footer = QStringLiteral("/fz\"12\"/c/p///pa"); // page / pages, centred
     int fromPage = 0, toPage = 0;                          // 0: every page
+    bool selection = false;                                // only the grid's selection block
 };
 
 // The data list on paper: the list's rows and skip, right margin 0 and top margin 30, the date

@@ -1,0 +1,93 @@
+#include "print/widgets/PrintCommands.h"
+
+#include "analysis/widgets/frmItiran.h"
+#include "analysis/widgets/frmMarkerView.h"
+#include "base/LanguageTable.h"
+#include "base/ShowMsg.h"
+#include "platform/PrintOutput.h"
+#include "print/ListPrint.h"
+#include "print/PrintSetting.h"
+#include "print/widgets/SPRDprint.h"
+#include "recording/widgets/frmProgress.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+#include <functional>
+
+namespace {
+
+using SheetPrint = std::function<bool(PrintOutput&, Progress*)>;
+
+void settings(QWidget* window) {
+    if (!IsPrinterInstalled()) return;
+    SPRDprint dialog(1, window);
+    dialog.exec();
+}
+
+// Prints to the chosen printer, or to a PDF file under a temporary name renamed when complete;
+// the window is disabled meanwhile.
+void print(QWidget* window, const SheetPrint& sheet) {
+    if (!IsPrinterInstalled()) return;
+    const PrintSetting& s = PrintSetting::shared();
+    window->setEnabled(false);
+    frmProgress progress(window);
+    bool ok = false;
+    QString target;
+    if (s.Printer.isEmpty()) {
+        target = QFileDialog::getSaveFileName(window, QString(), QString(),
+                                              QStringLiteral("PDF (*.pdf)"));
+        if (!target.isEmpty()) {
+            const QString temp = target + QStringLiteral(".part");
+            {
+                std::unique_ptr<PrintOutput> out = makePdfOutput(temp);
+                ok = sheet(*out, &progress);
+            }
+            QFile::remove(target);
+            ok = ok && QFile::rename(temp, target);
+            if (!ok) QFile::remove(temp);
+        }
+    } else {
+        QPrinter printer;
+        printer.setPrinterName(s.Printer);
+        PainterOutput out(printer);
+        ok = sheet(out, &progress);
+        target = s.Printer;
+    }
+    window->setEnabled(true);
+    if (!ok && !target.isEmpty())
+        ShowMsg(kMsgWarning, MsgText(562) + QStringLiteral("\r\n") + target);
+}
+
+void preview(QWidget* window, const SheetPrint& sheet) {
+    if (!IsPrinterInstalled()) return;
+    QPrinter printer;
+    QPrintPreviewDialog dialog(&printer, window);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, window, [&](QPrinter* p) {
+        PainterOutput out(*p);
+        sheet(out, nullptr);
+    });
+    dialog.exec();
+}
+
+} // namespace
+
+void installPrintCommands() {
+    const auto list = [](frmItiran& w) {
+        return SheetPrint([&w](PrintOutput& out, Progress* p) {
+            return PrintList(w.list(), PrintSetting::shared().sheetSettings(), out, p);
+        });
+    };
+    const auto marker = [](frmMarkerView& w) {
+        return SheetPrint([&w](PrintOutput& out, Progress* p) {
+            return PrintMarkerView(w.marker(), PrintSetting::shared().sheetSettings(), out, p);
+        });
+    };
+    frmItiran::setOutputCommand(5, [](frmItiran& w) { settings(&w); });
+    frmItiran::setOutputCommand(7, [list](frmItiran& w) { print(&w, list(w)); });
+    frmMarkerView::setOutputCommand(10, [](frmMarkerView& w) { settings(&w); });
+    frmMarkerView::setOutputCommand(11, [marker](frmMarkerView& w) { preview(&w, marker(w)); });
+    frmMarkerView::setOutputCommand(12, [marker](frmMarkerView& w) { print(&w, marker(w)); });
+}
