@@ -6,7 +6,11 @@
 
 #include "analysis/DataList.h"
 #include "analysis/GridModel.h"
+#include "analysis/SkipCount.h"
 #include "analysis/widgets/frmItiran.h"
+#include "platform/PrintOutput.h"
+#include "print/ListPrint.h"
+#include "print/clsSpreadPrint.h"
 #include "recording/CommandFiles.h"
 #include "recording/RecordingLoader.h"
 #include "recording/SelectionLists.h"
@@ -120,6 +124,41 @@ void BM_ListWindowOpen(benchmark::State& state) {
     state.counters["window_MB"] = growth;
 }
 BENCHMARK(BM_ListWindowOpen)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+
+// The break tables of the longest list (3,599,999 rows) on A4, with every row and with every
+// tenth.
+void BM_PrintBreakTables(benchmark::State& state) {
+    GridModel grid;
+    DataList list(*gView, grid);
+    list.load();
+    clsSpreadPrint p;
+    p.Spread = &grid;
+    p.RowStep = int(state.range(0));
+    qsizetype pages = 0;
+    for (auto _ : state) pages = p.rowPages(297).size() * p.columnPages(210).size();
+    state.counters["pages"] = double(pages);
+}
+BENCHMARK(BM_PrintBreakTables)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
+
+// The first 1,000 pages of the list to a PDF file; the resident growth shows that memory follows
+// the pages, not the list's rows.
+void BM_PrintFirst1000Pages(benchmark::State& state) {
+    GridModel grid;
+    DataList list(*gView, grid);
+    list.load();
+    const double before = residentMB();
+    for (auto _ : state) {
+        std::unique_ptr<PrintOutput> out =
+            makePdfOutput(QStringLiteral("/tmp/recview-bench-list.pdf"));
+        ListPrintSettings settings;
+        settings.fromPage = 1;
+        settings.toPage = 1000;
+        PrintList(list, settings, *out);
+    }
+    state.counters["growth_MB"] = residentMB() - before;
+    QFile::remove(QStringLiteral("/tmp/recview-bench-list.pdf"));
+}
+BENCHMARK(BM_PrintFirst1000Pages)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
 
 } // namespace
 
