@@ -95,6 +95,10 @@ void PainterOutput::box(double x1, double y1, double x2, double y2, int width) {
     painter_->drawRect(QRectF(QPointF(px(x1), px(y1)), QPointF(px(x2), px(y2))));
 }
 
+void PainterOutput::image(double x, double y, double w, double h, const QImage& picture) {
+    if (painter_) painter_->drawImage(QRectF(px(x), px(y), px(w), px(h)), picture);
+}
+
 bool PainterOutput::newPage() {
     return device_.newPage();
 }

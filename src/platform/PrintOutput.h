@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QString>
@@ -46,6 +47,9 @@ public:
     virtual void line(double x1, double y1, double x2, double y2, int width) = 0;
     virtual void box(double x1, double y1, double x2, double y2, int width) = 0;
 
+    // An image scaled into the box (x, y, width, height).
+    virtual void image(double x, double y, double w, double h, const QImage& picture) = 0;
+
     virtual bool newPage() = 0;
     // Ends the document; false when it could not be written.
     virtual bool endDocument() = 0;
@@ -70,6 +74,7 @@ public:
     void textOut(double x, double y, const QString& text) override;
     void line(double x1, double y1, double x2, double y2, int width) override;
     void box(double x1, double y1, double x2, double y2, int width) override;
+    void image(double x, double y, double w, double h, const QImage& picture) override;
     bool newPage() override;
     bool endDocument() override;
 

@@ -104,12 +104,16 @@ bool save(TrendView& view, const QString& path, const QSize& size) {
         paintChart(view, painter, QSizeF(size));
         return painter.end();
     }
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
+    return image(view, size).save(path);
+}
+
+QImage image(TrendView& view, const QSize& size) {
+    QImage out(size, QImage::Format_RGB32);
+    out.fill(Qt::white);
+    QPainter painter(&out);
     paintChart(view, painter, QSizeF(size));
     painter.end();
-    return image.save(path);
+    return out;
 }
 
 } // namespace TrendImage

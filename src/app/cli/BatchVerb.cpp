@@ -1,6 +1,12 @@
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
+#include "base/Progress.h"
+#include "platform/PrintOutput.h"
+#include "print/clsBatchUtil.h"
 #include "recording/clsBatchInfo.h"
+#include "trend/TrendView.h"
+
+#include <QFile>
 
 #include <QTextStream>
 
@@ -21,6 +27,25 @@ nlohmann::json batchJson(const clsBatchInfo& b) {
             {"texts", texts}};
 }
 
+// The batch report of the recording into a PDF file (a temporary name renamed when complete).
+int writeReport(const clsBatchInfo& batch, const QString& file, const QString& path,
+                QTextStream& err) {
+    TrendView trend(1);
+    NoProgress progress;
+    trend.afterLoad(&progress);
+    const QString temp = path + QStringLiteral(".part");
+    bool ok;
+    {
+        std::unique_ptr<PrintOutput> out = makePdfOutput(temp);
+        ok = clsBatchUtil::print(*out, batch, trend, file);
+    }
+    QFile::remove(path);
+    if (ok && QFile::rename(temp, path)) return 0;
+    QFile::remove(temp);
+    err << messageText(562) << "\n" << path << "\n";
+    return 1;
+}
+
 // recview batch [--json] FILE...: the batch block of the recording (of its last file that has
 // one read, as the view keeps it).
 int runBatch(const QStringList& input) {
@@ -32,13 +57,19 @@ int runBatch(const QStringList& input) {
         err << "recview batch: no file given\n";
         return 2;
     }
-    if (!parsed.rest.isEmpty()) {
-        err << "recview batch: unknown option " << parsed.rest[0] << "\n";
+    QString report;
+    for (qsizetype i = 0; i < parsed.rest.size(); ++i) {
+        if (parsed.rest[i] == QLatin1String("--report") && i + 1 < parsed.rest.size()) {
+            report = parsed.rest[++i];
+            continue;
+        }
+        err << "recview batch: unknown option " << parsed.rest[i] << "\n";
         return 2;
     }
     ViewState* view = openRecording(parsed);
     if (!view) return 1;
     const clsBatchInfo& batch = view->part<clsBatchInfo>();
+    if (!report.isEmpty()) return writeReport(batch, parsed.files.value(0), report, err);
     QTextStream out(stdout);
     if (json) {
         out << QString::fromStdString(batchJson(batch).dump(2)) << "\n";

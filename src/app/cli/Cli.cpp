@@ -28,7 +28,7 @@ const char* const kUsage =
     "                 [--paper A4|A3|A5|B4|B5|Legal|Letter|Tabloid] [--landscape]\n"
     "                 [--header PROGRAM] [--footer PROGRAM] [--pages F:T]\n"
     "                                    the data list (or marker view) printed into a PDF\n"
-    "  recview batch [--json] [--gs] FILE...\n"
+    "  recview batch [--json | --report OUT.pdf] [--gs] FILE...\n"
     "                                    the batch name, lot number and texts of a recording\n"
     "  recview stats [--gs] FILE... [--cursors A,B] [--json]\n"
     "                                    the marker view: values at the cursors, five statistics\n"
