@@ -1,6 +1,10 @@
 #include "BenchFiles.h"
 
+#include "recording/CommandFiles.h"
+#include "recording/RecordingLoader.h"
+#include "recording/SelectionLists.h"
 #include "support/VxfWriter.h"
+#include "trend/TrendView.h"
 
 #include <QDir>
 #include <QFile>
@@ -65,6 +69,15 @@ QStringList ensureRecording(const QString& dir, int rows) {
         paths << path;
     }
     return paths;
+}
+
+std::unique_ptr<TrendView> openView(const QStringList& files) {
+    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(files), false);
+    copySelectionToView(views(1));
+    if (!LoadRecording(views(1), LoadOptions()).ok()) return nullptr;
+    auto view = std::make_unique<TrendView>(1);
+    if (!view->afterLoad()) return nullptr;
+    return view;
 }
 
 } // namespace BenchFiles

@@ -34,11 +34,8 @@ constexpr int kScreenRows = 30;
 std::unique_ptr<TrendView> gView;
 
 bool loadView(const QStringList& files) {
-    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(files), false);
-    copySelectionToView(views(1));
-    if (!LoadRecording(views(1), LoadOptions()).ok()) return false;
-    gView = std::make_unique<TrendView>(1);
-    if (!gView->afterLoad()) return false;
+    gView = BenchFiles::openView(files);
+    if (!gView) return false;
     AlarmMarks(*gView).afterLoad();
     return views(1).PointCount == kRows;
 }

@@ -27,11 +27,8 @@ std::unique_ptr<TrendView> gView;
 std::unique_ptr<TrendCursors> gCursors;
 
 bool loadView(const QStringList& files) {
-    CommandFiles::ParseCommandFiles(CommandFiles::quotedCommandLine(files), false);
-    copySelectionToView(views(1));
-    if (!LoadRecording(views(1), LoadOptions()).ok()) return false;
-    gView = std::make_unique<TrendView>(1);
-    if (!gView->afterLoad()) return false;
+    gView = BenchFiles::openView(files);
+    if (!gView) return false;
     gCursors = std::make_unique<TrendCursors>(*gView);
     gCursors->afterLoad();
     return gCursors->place(1, 250000) && gCursors->place(2, 750000);

@@ -1,51 +1,36 @@
 #include "app/cli/CliListArgs.h"
 
+#include "app/cli/CliOptions.h"
+
 #include "platform/ChartModel.h"
 #include "recording/ViewState.h"
 #include "trend/TrendCursors.h"
 #include "trend/TrendView.h"
 
-#include <utility>
-
 namespace Cli {
 
 bool takeExportArgs(QStringList& args, ExportArgs& e, QString& error, bool print) {
-    const std::pair<const char*, QString*> valued[] = {
-        {"-o", &e.out},  {"--rows", &e.rows}, {"--cursors", &e.cursors}, {"--from", &e.from},
-        {"--to", &e.to}, {"--skip", &e.skip}, {"--hide", &e.hide},
-    };
-    const std::pair<const char*, QString*> printing[] = {{"--paper", &e.paper},
-                                                         {"--header", &e.header},
-                                                         {"--footer", &e.footer},
-                                                         {"--pages", &e.pages}};
-    QStringList rest;
-    for (int i = 0; i < args.size(); ++i) {
-        if (args[i] == QLatin1String("--marker")) {
-            e.marker = true;
-            continue;
-        }
-        if (print && args[i] == QLatin1String("--landscape")) {
-            e.landscape = true;
-            continue;
-        }
-        QString* target = nullptr;
-        for (const auto& [name, field] : valued)
-            if (args[i] == QLatin1String(name)) target = field;
-        if (print)
-            for (const auto& [name, field] : printing)
-                if (args[i] == QLatin1String(name)) target = field;
-        if (!target) {
-            rest << args[i];
-            continue;
-        }
-        if (i + 1 >= args.size()) {
-            error = args[i] + QStringLiteral(" needs a value");
-            return false;
-        }
-        *target = args[++i];
-    }
-    args = rest;
-    if (e.out.isEmpty()) error = QStringLiteral("-o OUT is required");
+    if (!takeOptions(args,
+                     {{"-o", &e.out},
+                      {"--rows", &e.rows},
+                      {"--cursors", &e.cursors},
+                      {"--from", &e.from},
+                      {"--to", &e.to},
+                      {"--skip", &e.skip},
+                      {"--hide", &e.hide},
+                      {"--paper", &e.paper},
+                      {"--header", &e.header},
+                      {"--footer", &e.footer},
+                      {"--pages", &e.pages}},
+                     {{"--marker", &e.marker}, {"--landscape", &e.landscape}}, error))
+        return false;
+    const bool printing = !e.paper.isEmpty() || !e.header.isEmpty() || !e.footer.isEmpty() ||
+                          !e.pages.isEmpty() || e.landscape;
+    if (printing && !print)
+        error =
+            QStringLiteral("--paper, --landscape, --header, --footer and --pages are for print");
+    else if (e.out.isEmpty())
+        error = QStringLiteral("-o OUT is required");
     return error.isEmpty();
 }
 

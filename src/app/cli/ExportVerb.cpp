@@ -3,6 +3,7 @@
 #include "analysis/MarkerView.h"
 #include "analysis/SkipCount.h"
 #include "app/cli/CliListArgs.h"
+#include "app/cli/CliOptions.h"
 #include "app/cli/CliRange.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
@@ -62,17 +63,11 @@ int runExport(const QStringList& input) {
         !ExportKind::csvAllowed(clsConst::shared().DecimalSeparator()))
         return usage(QStringLiteral("the decimal separator is a comma: CSV would split numbers; "
                                     "write a .txt file"));
-    const RecordingArgs parsed = splitRecordingArgs(args);
-    if (parsed.files.isEmpty()) return usage(QStringLiteral("no file given"));
-    if (!parsed.rest.isEmpty()) return usage(QStringLiteral("unknown option ") + parsed.rest[0]);
-    if (!openRecording(parsed)) return 1;
-
-    TrendView view(1);
+    int status = 0;
+    const std::unique_ptr<TrendView> opened = openTrendView(QStringLiteral("export"), args, status);
+    if (!opened) return status;
+    TrendView& view = *opened;
     NoProgress progress;
-    if (!view.afterLoad(&progress)) {
-        err << "recview export: the recording cannot be shown\n";
-        return 1;
-    }
     TrendCursors cursors(view);
     cursors.afterLoad();
     if (!hideChannels(view, e.hide, error) || !applyTimeRange(view, e.from, e.to, error) ||

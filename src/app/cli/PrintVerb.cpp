@@ -4,6 +4,7 @@
 #include "analysis/MarkerView.h"
 #include "analysis/SkipCount.h"
 #include "app/cli/CliListArgs.h"
+#include "app/cli/CliOptions.h"
 #include "app/cli/CliRange.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
@@ -66,17 +67,11 @@ int runPrint(const QStringList& input) {
         return usage(QStringLiteral("--pages takes F:T"));
     if (!e.out.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
         return usage(QStringLiteral("-o OUT.pdf is required"));
-    const RecordingArgs parsed = splitRecordingArgs(args);
-    if (parsed.files.isEmpty()) return usage(QStringLiteral("no file given"));
-    if (!parsed.rest.isEmpty()) return usage(QStringLiteral("unknown option ") + parsed.rest[0]);
-    if (!openRecording(parsed)) return 1;
-
-    TrendView view(1);
+    int status = 0;
+    const std::unique_ptr<TrendView> opened = openTrendView(QStringLiteral("print"), args, status);
+    if (!opened) return status;
+    TrendView& view = *opened;
     NoProgress progress;
-    if (!view.afterLoad(&progress)) {
-        err << "recview print: the recording cannot be shown\n";
-        return 1;
-    }
     AlarmMarks(view).afterLoad(); // the alarm table behind the red cells
     TrendCursors cursors(view);
     cursors.afterLoad();

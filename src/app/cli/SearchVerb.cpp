@@ -1,4 +1,5 @@
 #include "analysis/Search.h"
+#include "app/cli/CliOptions.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
 #include "base/Progress.h"
@@ -21,32 +22,19 @@ struct SearchArgs {
 };
 
 bool takeSearchArgs(QStringList& args, SearchArgs& a, QString& error) {
-    const std::pair<const char*, QString*> valued[] = {
-        {"--kind", &a.kind},     {"--channel", &a.channel}, {"--item", &a.item},
-        {"--option", &a.option}, {"--text1", &a.text1},     {"--text2", &a.text2},
-        {"--from", &a.from},     {"--to", &a.to},           {"--cursors", &a.cursors},
-        {"--level", &a.level},
-    };
-    QStringList rest;
-    for (int i = 0; i < args.size(); ++i) {
-        if (args[i] == QLatin1String("--json")) {
-            a.json = true;
-            continue;
-        }
-        QString* target = nullptr;
-        for (const auto& [name, field] : valued)
-            if (args[i] == QLatin1String(name)) target = field;
-        if (!target) {
-            rest << args[i];
-            continue;
-        }
-        if (i + 1 >= args.size()) {
-            error = args[i] + QStringLiteral(" needs a value");
-            return false;
-        }
-        *target = args[++i];
-    }
-    args = rest;
+    if (!takeOptions(args,
+                     {{"--kind", &a.kind},
+                      {"--channel", &a.channel},
+                      {"--item", &a.item},
+                      {"--option", &a.option},
+                      {"--text1", &a.text1},
+                      {"--text2", &a.text2},
+                      {"--from", &a.from},
+                      {"--to", &a.to},
+                      {"--cursors", &a.cursors},
+                      {"--level", &a.level}},
+                     {{"--json", &a.json}}, error))
+        return false;
     if (a.kind.isEmpty()) error = QStringLiteral("--kind K (0..9) is required");
     return error.isEmpty();
 }
@@ -89,16 +77,10 @@ int runSearch(const QStringList& input) {
         return usage(QStringLiteral("--level takes 0..4"));
     in.text1 = a.text1;
     in.text2 = a.text2;
-    const RecordingArgs parsed = splitRecordingArgs(args);
-    if (parsed.files.isEmpty()) return usage(QStringLiteral("no file given"));
-    if (!parsed.rest.isEmpty()) return usage(QStringLiteral("unknown option ") + parsed.rest[0]);
-    if (!openRecording(parsed)) return 1;
-    TrendView view(1);
-    NoProgress progress;
-    if (!view.afterLoad(&progress)) {
-        err << "recview search: the recording cannot be shown\n";
-        return 1;
-    }
+    int status = 0;
+    const std::unique_ptr<TrendView> opened = openTrendView(QStringLiteral("search"), args, status);
+    if (!opened) return status;
+    TrendView& view = *opened;
     const ViewState& v = view.tables();
     const int n = v.ChannelCount;
     int channel = 1;
@@ -122,6 +104,7 @@ int runSearch(const QStringList& input) {
         for (int c = 0; c < 2; ++c)
             if (at[c] > 0) cursors.place(c + 1, at[c]);
     }
+    NoProgress progress;
     const Search::Result result = Search::run(view, in, &progress);
     QTextStream out(stdout);
     if (a.json) {

@@ -1,5 +1,7 @@
 #include "analysis/GridModel.h"
 #include "analysis/MarkerView.h"
+#include "app/cli/CliListArgs.h"
+#include "app/cli/CliOptions.h"
 #include "app/cli/CliRecording.h"
 #include "app/cli/CliVerbs.h"
 #include "base/Progress.h"
@@ -14,57 +16,31 @@ namespace Cli {
 
 namespace {
 
-// --cursors A,B with points 1..points (0 leaves a cursor unplaced).
-bool parseCursors(const QString& text, qint32 points, qint32 (&at)[2]) {
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (parts.size() != 2) return false;
-    for (int c = 0; c < 2; ++c) {
-        bool ok = false;
-        at[c] = parts[c].trimmed().toInt(&ok);
-        if (!ok || at[c] < 0 || at[c] > points) return false;
-    }
-    return true;
-}
-
 int runStats(const QStringList& input) {
     QTextStream err(stderr);
     QStringList args = input;
     const bool json = args.removeAll(QStringLiteral("--json")) > 0;
-    RecordingArgs parsed = splitRecordingArgs(args);
     QString cursorText;
-    for (qsizetype i = 0; i < parsed.rest.size(); ++i) {
-        if (parsed.rest[i] == QLatin1String("--cursors") && i + 1 < parsed.rest.size()) {
-            cursorText = parsed.rest[++i];
-            continue;
-        }
-        err << "recview stats: unknown option " << parsed.rest[i] << "\n";
+    QString error;
+    if (!takeOptions(args, {{"--cursors", &cursorText}}, {}, error)) {
+        err << "recview stats: " << error << "\n";
         return 2;
     }
-    if (parsed.files.isEmpty()) {
-        err << "recview stats: no file given\n";
-        return 2;
-    }
-    if (!openRecording(parsed)) return 1;
-    TrendView view(1);
-    NoProgress progress;
-    if (!view.afterLoad(&progress)) {
-        err << "recview stats: the recording cannot be shown\n";
-        return 1;
-    }
+    int status = 0;
+    const std::unique_ptr<TrendView> opened = openTrendView(QStringLiteral("stats"), args, status);
+    if (!opened) return status;
+    TrendView& view = *opened;
     TrendCursors cursors(view);
     cursors.afterLoad();
-    qint32 at[2] = {0, 0};
-    if (!cursorText.isEmpty() && !parseCursors(cursorText, view.tables().PointCount, at)) {
-        err << "recview stats: --cursors takes A,B with points 0.." << view.tables().PointCount
-            << "\n";
+    if (!placeCursors(cursors, cursorText, view.tables().PointCount, error)) {
+        err << "recview stats: " << error << "\n";
         return 2;
     }
     GridModel grid;
     MarkerView marker(view, cursors, grid);
     marker.load();
-    for (int c = 0; c < 2; ++c)
-        if (at[c] > 0) cursors.place(c + 1, at[c]);
-    if (at[0] > 0 && at[1] > 0) marker.ToolbarSet(8);
+    const auto& points = view.state().CursorPoint;
+    if (points[0] > 0 && points[1] > 0) marker.ToolbarSet(8);
 
     QTextStream out(stdout);
     if (json) {
