@@ -1,11 +1,15 @@
 #include "print/ListPrint.h"
 
+#include "analysis/BatchTable.h"
 #include "analysis/DataList.h"
+#include "analysis/GridModel.h"
 #include "analysis/MarkerView.h"
 #include "analysis/SkipCount.h"
 #include "base/LanguageTable.h"
 #include "platform/PrintOutput.h"
 #include "print/clsSpreadPrint.h"
+#include "recording/ViewState.h"
+#include "recording/clsBatchInfo.h"
 
 namespace {
 
@@ -32,6 +36,29 @@ bool PrintList(DataList& list, const ListPrintSettings& settings, PrintOutput& o
     clsSpreadPrint p = engine(list.grid(), settings);
     p.RowStep = SkipStep();
     return p.Print_Spread(out, progress);
+}
+
+bool PrintGrid(GridModel& grid, const ListPrintSettings& settings, PrintOutput& out,
+               Progress* progress) {
+    clsSpreadPrint p = engine(grid, settings);
+    p.ColsFrozen = 0;
+    return p.Print_Spread(out, progress);
+}
+
+bool PrintBatchTable(int viewNumber, const ListPrintSettings& settings, PrintOutput& out,
+                     Progress* progress) {
+    const auto rows = batchTableRows(views(viewNumber).part<clsBatchInfo>());
+    GridModel grid;
+    grid.setMaxCols(2);
+    grid.setMaxRows(qint32(rows.size()));
+    grid.setColWidth(0, 0);
+    grid.setColWidth(1, 30);
+    grid.setColWidth(2, 40);
+    for (int r = 0; r < rows.size(); ++r) {
+        grid.setText(1, r + 1, rows[r].first);
+        grid.setText(2, r + 1, rows[r].second);
+    }
+    return PrintGrid(grid, settings, out, progress);
 }
 
 bool PrintMarkerView(MarkerView& marker, const ListPrintSettings& settings, PrintOutput& out,

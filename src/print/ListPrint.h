@@ -3,6 +3,7 @@
 #include <QString>
 
 class DataList;
+class GridModel;
 class MarkerView;
 class PrintOutput;
 class Progress;
@@ -22,6 +23,12 @@ struct ListPrintSettings {
 // and time column frozen. False when the output failed.
 bool PrintList(DataList& list, const ListPrintSettings& settings, PrintOutput& out,
                Progress* progress = nullptr);
+// Any grid of texts the same way (the batch table), no column frozen.
+bool PrintGrid(GridModel& grid, const ListPrintSettings& settings, PrintOutput& out,
+               Progress* progress = nullptr);
+// The batch table of a view (batch name, lot number, then the pairs) the same way.
+bool PrintBatchTable(int viewNumber, const ListPrintSettings& settings, PrintOutput& out,
+                     Progress* progress = nullptr);
 // The marker view's grid the same way (its shown column groups).
 bool PrintMarkerView(MarkerView& marker, const ListPrintSettings& settings, PrintOutput& out,
                      Progress* progress = nullptr);

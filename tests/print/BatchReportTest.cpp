@@ -1,5 +1,6 @@
 #include "analysis/ListFixture.h"
 #include "platform/PrintOutput.h"
+#include "print/ListPrint.h"
 #include "print/clsBatchUtil.h"
 #include "recording/clsBatchInfo.h"
 
@@ -96,6 +97,24 @@ TEST(BatchReport, TheCommandLineWritesOnePdfPage) {
     EXPECT_TRUE(out.contains(QStringLiteral("Recording sycle :"))) << out.toStdString();
     EXPECT_TRUE(out.contains(QStringLiteral("LOT No:LOT0042")));
     EXPECT_EQ(out.count(QLatin1Char('\f')), 1); // one page
+}
+
+TEST(BatchReport, TheBatchTablePrintsThroughTheSheetEngine) {
+    ListView v(QStringLiteral("table.vxf"), fixtures::buildVxf(batchRecording()));
+    const QString pdf = v.dir.path("table.pdf");
+    {
+        std::unique_ptr<PrintOutput> out = makePdfOutput(pdf);
+        ListPrintSettings settings;
+        settings.header = QStringLiteral("/cBatch table");
+        ASSERT_TRUE(PrintBatchTable(1, settings, *out));
+    }
+    QProcess text;
+    text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-enc"),
+                                             QStringLiteral("UTF-8"), pdf, QStringLiteral("-")});
+    text.waitForFinished(30000);
+    const QString out = QString::fromUtf8(text.readAllStandardOutput());
+    for (const char* expected : {"Batch table", "Batch-7", "LOT0042", "Recipe", "R-12", "1/1"})
+        EXPECT_TRUE(out.contains(QLatin1String(expected))) << expected << "\n" << out.toStdString();
 }
 
 } // namespace

@@ -10,6 +10,21 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <map>
+
+namespace {
+
+std::map<int, frmBatchInfo::Command>& commands() {
+    static std::map<int, frmBatchInfo::Command> registered;
+    return registered;
+}
+
+} // namespace
+
+void frmBatchInfo::setCommand(int which, Command command) {
+    commands()[which] = std::move(command);
+}
+
 frmBatchInfo::frmBatchInfo(int viewNumber, QWidget* parent)
     : QWidget(parent, Qt::Window), viewNumber_(viewNumber), table_(new QTableWidget(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -27,6 +42,17 @@ frmBatchInfo::frmBatchInfo(int viewNumber, QWidget* parent)
         setWindowFlag(Qt::WindowStaysOnTopHint, on);
         show();
     });
+    static const char* const kNames[] = {"mnuPrintSet", "mnuPrint", "mnuReportPreview",
+                                         "mnuReport"};
+    static const char* const kCaptions[] = {"Print settings", "Print", "Report preview", "Report"};
+    for (int k = 0; k < 4; ++k) {
+        QAction* action = menu->addAction(QLatin1String(kCaptions[k]));
+        action->setObjectName(QLatin1String(kNames[k]));
+        const auto it = commands().find(k);
+        action->setEnabled(it != commands().end());
+        if (it != commands().end())
+            connect(action, &QAction::triggered, this, [this, c = it->second] { c(*this); });
+    }
     auto* layout = new QVBoxLayout(this);
     layout->setMenuBar(menu);
     layout->addWidget(table_);

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QTableWidget;
 class frmScrollTime;
 
@@ -15,6 +17,12 @@ public:
     // Shows the table of the view, one window a view.
     static frmBatchInfo* ShowModeless(frmScrollTime& view);
     QTableWidget* spdBatchInfo() const { return table_; }
+    int viewNumber() const { return viewNumber_; }
+
+    // What the menu's print commands do (0 print settings, 1 print the table, 2 the report's
+    // preview, 3 print the report); a command without one stays disabled.
+    using Command = std::function<void(frmBatchInfo& window)>;
+    static void setCommand(int which, Command command);
 
 private:
     void fill();

@@ -1,5 +1,6 @@
 #include "print/widgets/PrintCommands.h"
 
+#include "analysis/widgets/frmBatchInfo.h"
 #include "analysis/widgets/frmItiran.h"
 #include "analysis/widgets/frmMarkerView.h"
 #include "base/LanguageTable.h"
@@ -7,8 +8,12 @@
 #include "platform/PrintOutput.h"
 #include "print/ListPrint.h"
 #include "print/PrintSetting.h"
+#include "print/clsBatchUtil.h"
 #include "print/widgets/SPRDprint.h"
+#include "recording/ViewState.h"
+#include "recording/clsBatchInfo.h"
 #include "recording/widgets/frmProgress.h"
+#include "trend/widgets/frmScrollTime.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -72,6 +77,27 @@ void preview(QWidget* window, const SheetPrint& sheet) {
     dialog.exec();
 }
 
+void installBatchCommands() {
+    const auto table = [](frmBatchInfo& w) {
+        return SheetPrint([&w](PrintOutput& out, Progress* p) {
+            return PrintBatchTable(w.viewNumber(), PrintSetting::shared().sheetSettings(), out, p);
+        });
+    };
+    const auto report = [](frmBatchInfo& w) {
+        return SheetPrint([&w](PrintOutput& out, Progress*) {
+            auto* view = qobject_cast<frmScrollTime*>(w.parentWidget());
+            if (!view) return false;
+            ViewState& t = views(w.viewNumber());
+            return clsBatchUtil::print(out, t.part<clsBatchInfo>(), view->trend(),
+                                       t.FileName.value(0));
+        });
+    };
+    frmBatchInfo::setCommand(0, [](frmBatchInfo& w) { settings(&w); });
+    frmBatchInfo::setCommand(1, [table](frmBatchInfo& w) { print(&w, table(w)); });
+    frmBatchInfo::setCommand(2, [report](frmBatchInfo& w) { preview(&w, report(w)); });
+    frmBatchInfo::setCommand(3, [report](frmBatchInfo& w) { print(&w, report(w)); });
+}
+
 } // namespace
 
 void installPrintCommands() {
@@ -90,4 +116,5 @@ void installPrintCommands() {
     frmMarkerView::setOutputCommand(10, [](frmMarkerView& w) { settings(&w); });
     frmMarkerView::setOutputCommand(11, [marker](frmMarkerView& w) { preview(&w, marker(w)); });
     frmMarkerView::setOutputCommand(12, [marker](frmMarkerView& w) { print(&w, marker(w)); });
+    installBatchCommands();
 }
