@@ -31,6 +31,14 @@ clsSpreadPrint engine(GridModel& grid, const ListPrintSettings& s) {
 
 } // namespace
 
+int ListPageCount(DataList& list, const ListPrintSettings& settings) {
+    clsSpreadPrint p = engine(list.grid(), settings);
+    p.RowStep = SkipStep();
+    QSizeF paper = clsSpreadPrint::pageSizeOf(settings.paper).size(QPageSize::Millimeter);
+    if (settings.landscape) paper.transpose();
+    return int(p.columnPages(paper.width()).size() * p.rowPages(paper.height()).size());
+}
+
 bool PrintList(DataList& list, const ListPrintSettings& settings, PrintOutput& out,
                Progress* progress) {
     clsSpreadPrint p = engine(list.grid(), settings);

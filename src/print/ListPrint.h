@@ -19,6 +19,9 @@ struct ListPrintSettings {
     bool selection = false;                                // only the grid's selection block
 };
 
+// The pages a print of the list would take, for the page range of the print settings.
+int ListPageCount(DataList& list, const ListPrintSettings& settings);
+
 // The data list on paper: the list's rows and skip, right margin 0 and top margin 30, the date
 // and time column frozen. False when the output failed.
 bool PrintList(DataList& list, const ListPrintSettings& settings, PrintOutput& out,

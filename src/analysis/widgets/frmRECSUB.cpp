@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -47,8 +48,13 @@ frmRECSUB::frmRECSUB(TrendView& view, QWidget* parent)
         button->setCheckable(true);
         button->setChecked(int(settings_.scaleType()) == k);
         button->setAutoExclusive(true);
-        connect(button, &QPushButton::clicked, this,
-                [this, k] { settings_.setScaleType(ScaleType(k)); });
+        connect(button, &QPushButton::clicked, this, [this, k] {
+            settings_.setScaleType(ScaleType(k));
+            // The multi-scale rows are chosen at once, in the view's own dialog.
+            if (k == 2)
+                if (auto* view = qobject_cast<frmScrollTime*>(parentWidget()))
+                    view->showMultiScaleSet();
+        });
         scale->addWidget(button);
     }
     auto* ok = new QPushButton(MsgText(46), this);
@@ -63,7 +69,15 @@ frmRECSUB::frmRECSUB(TrendView& view, QWidget* parent)
     scale->addStretch();
     scale->addWidget(ok);
     scale->addWidget(cancel);
+    // Label14..Label18: the formula of the selected line, C = A - B or C = A + B.
+    auto* formula = new QLabel(this);
+    formula->setObjectName(QStringLiteral("Label14"));
+    connect(table_, &QTableWidget::currentCellChanged, this, [this, formula](int row) {
+        const auto* sign = qobject_cast<QComboBox*>(table_->cellWidget(row, kSign));
+        formula->setText(QStringLiteral("C = A %1 B").arg(sign ? sign->currentText() : "-"));
+    });
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(formula);
     layout->addWidget(table_);
     layout->addLayout(scale);
     resize(1100, 520);

@@ -26,9 +26,9 @@ namespace {
 
 using SheetPrint = std::function<bool(PrintOutput&, Progress*)>;
 
-void settings(QWidget* window) {
+void settings(QWidget* window, int pages = 1) {
     if (!IsPrinterInstalled()) return;
-    SPRDprint dialog(1, window);
+    SPRDprint dialog(pages, window);
     dialog.exec();
 }
 
@@ -111,7 +111,9 @@ void installPrintCommands() {
             return PrintMarkerView(w.marker(), PrintSetting::shared().sheetSettings(), out, p);
         });
     };
-    frmItiran::setOutputCommand(5, [](frmItiran& w) { settings(&w); });
+    frmItiran::setOutputCommand(5, [](frmItiran& w) {
+        settings(&w, ListPageCount(w.list(), PrintSetting::shared().sheetSettings()));
+    });
     frmItiran::setOutputCommand(7, [list](frmItiran& w) { print(&w, list(w)); });
     frmMarkerView::setOutputCommand(10, [](frmMarkerView& w) { settings(&w); });
     frmMarkerView::setOutputCommand(11, [marker](frmMarkerView& w) { preview(&w, marker(w)); });
