@@ -25,6 +25,8 @@ public:
     QString TPassword = QString::fromLatin1(kFactoryPassword);
     QString Dir; // the local folder
     FtpSettings& settings() { return ftp_.settings; }
+    // Told the bytes of a running transfer; the window lets its events run there.
+    std::function<void(qint64 done, qint64 total)>& progress() { return ftp_.progress; }
 
     bool connected() const { return ftp_.hFTP() != 0; }
     // An empty address gives message 568 and no attempt; a failed login message 569.

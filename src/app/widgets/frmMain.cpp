@@ -15,6 +15,7 @@
 #include "base/LanguageTable.h"
 #include "base/LocaleInfo.h"
 #include "base/clsCommon.h"
+#include "ftp/widgets/ftpForm.h"
 #include "recording/DroppedFiles.h"
 #include "recording/FamilyCodes.h"
 #include "recording/FileRecognition.h"
@@ -305,11 +306,14 @@ void frmMain::Toolbar1_ButtonClick(int index) {
         version.exec();
         break;
     }
+    case 4:
+        ftpForm::open(frame_);
+        break;
     case 8:
         ShowHelp();
         break;
     default:
-        // 4 and 5 open the collection windows of the FTP part.
+        // 5 opens the scheduled collection's window of the FTP part.
         break;
     }
 }
