@@ -114,6 +114,29 @@ TEST_F(ManualTransferTest, TheSettingsFileKeepsTheAddressAndTheFolder) {
     EXPECT_EQ(fresh.TAddress, QString::fromLatin1(ManualTransfer::kFactoryAddress));
 }
 
+// A server that drops the connection in mid-file: 570 with the name and no half file.
+class ManualTransferDrop : public FtpFixture {};
+
+TEST_F(ManualTransferDrop, ALostServerLeavesNoHalfFile) {
+    writeFile(remotePath("big.vxf"), QByteArray(200000, 'x'));
+    startServer(FtpTestServer::Fault::Drop);
+    RecordingMessageSink sink;
+    ManualTransfer t;
+    t.settings() = shortWaits(port());
+    t.TAddress = QStringLiteral("127.0.0.1");
+    t.TPassword = QString::fromLatin1(kPassword);
+    t.Dir = local.path();
+    ASSERT_TRUE(t.Connect());
+    int row = -1;
+    for (int r = 1; r < t.remote().rowCount(); ++r)
+        if (t.remote().entryAt(r)->Name == QLatin1String("big.vxf")) row = r;
+    ASSERT_GE(row, 1);
+    EXPECT_EQ(t.CGet({row}), 0);
+    ASSERT_FALSE(sink.calls().isEmpty());
+    EXPECT_EQ(sink.last().text, MsgText(570) + "\r\nbig.vxf");
+    EXPECT_TRUE(localFiles().isEmpty());
+}
+
 TEST(IpInput, BoxesClampAndPad) {
     EXPECT_EQ(IpInput::clamp("300"), "255");
     EXPECT_EQ(IpInput::clamp("-4"), "0");
