@@ -15,6 +15,8 @@
 #include "base/LanguageTable.h"
 #include "base/LocaleInfo.h"
 #include "base/clsCommon.h"
+#include "ftp/FTPFile.h"
+#include "ftp/widgets/ftpDataForm.h"
 #include "ftp/widgets/ftpForm.h"
 #include "recording/DroppedFiles.h"
 #include "recording/FamilyCodes.h"
@@ -56,8 +58,11 @@ bool gsMode() {
 
 frmMain::frmMain(TrMdiForm* frame)
     : QObject(frame), frame_(frame), forms_(new ViewForms(frame)),
-      timDoubleClick_(new QTimer(this)), timWindow_(new QTimer(this)), timFTP_(new QTimer(this)) {
+      timDoubleClick_(new QTimer(this)), timWindow_(new QTimer(this)), timFTP_(new QTimer(this)),
+      ftpFile_(std::make_unique<FTPFile>()) {
     setObjectName(QStringLiteral("frmMain"));
+    ftpFile_->FTPDataInit();
+    ftpFile_->FTPDataFi();
     buildToolbar();
     buildMenu();
     StatusBar1_ = frame_->statusBar();
@@ -88,7 +93,10 @@ frmMain::frmMain(TrMdiForm* frame)
     connect(forms_, &ViewForms::openFilesRequested, this, &frmMain::openFilesInto);
 }
 
-frmMain::~frmMain() = default;
+// The collection window reads the table: it goes before it.
+frmMain::~frmMain() {
+    delete dataForm_.data();
+}
 
 void frmMain::buildToolbar() {
     Toolbar1_ = new QToolBar(frame_);
@@ -151,6 +159,8 @@ void frmMain::Form_Load() {
     timDoubleClick_->start();
     timFTP_->start();
     if (selection().SelFileCount > 0) OpenView(FirstFreeView());
+    // The start-up pass, once, after the files of the command line.
+    if (ftpFile_->table.AutoReadFlg == 1) dataForm().RunCollection();
 }
 
 void frmMain::Form_Unload() {
@@ -163,7 +173,13 @@ void frmMain::Form_Unload() {
 }
 
 void frmMain::writeFtpSettings() {
-    // FTPDataSet.ini is written here once the collection settings are part of the program.
+    if (dataForm_) dataForm_->waitForPass();
+    ftpFile_->FTPDataFo();
+}
+
+ftpDataForm& frmMain::dataForm() {
+    if (!dataForm_) dataForm_ = new ftpDataForm(*ftpFile_, frame_);
+    return *dataForm_;
 }
 
 void frmMain::restoreWindow() {
@@ -222,7 +238,8 @@ void frmMain::timWindow_Timer() {
 void frmMain::timFTP_Timer() {
     StatusBar2_->setText(
         LocaleInfo::systemLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat));
-    // The scheduled collection starts here once the collection is part of the program.
+    // The daily pass, when its minute has come and nothing runs.
+    if (ftpFile_) dataForm().tick();
 }
 
 bool frmMain::anyViewLoading() const {
@@ -309,11 +326,14 @@ void frmMain::Toolbar1_ButtonClick(int index) {
     case 4:
         ftpForm::open(frame_);
         break;
+    case 5:
+        dataForm().show();
+        dataForm().raise();
+        break;
     case 8:
         ShowHelp();
         break;
     default:
-        // 5 opens the scheduled collection's window of the FTP part.
         break;
     }
 }

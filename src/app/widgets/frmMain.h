@@ -1,14 +1,19 @@
 #pragma once
 
+#include <memory>
+
 #include "recording/FileRecognition.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 class QLabel;
 class QMenu;
 class QStatusBar;
 class QTimer;
+class FTPFile;
+class ftpDataForm;
 class QToolBar;
 class TrMdiForm;
 class ViewForms;
@@ -76,6 +81,10 @@ private:
     QTimer* timDoubleClick_;
     QTimer* timWindow_;
     QTimer* timFTP_;
+    // The collection: the table read at start, and its window, made on first use and hidden.
+    std::unique_ptr<FTPFile> ftpFile_;
+    QPointer<ftpDataForm> dataForm_;
+    ftpDataForm& dataForm();
     int pendingView_ = 0;
     bool unloaded_ = false;
 };
