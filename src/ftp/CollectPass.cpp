@@ -1,6 +1,13 @@
 #include "ftp/CollectPass.h"
 
 #include "base/LanguageTable.h"
+#include "ftp/CollectionEngine.h"
+
+#include <QDateTime>
+
+#include <chrono>
+#include <map>
+#include <thread>
 
 QList<int> configuredRows(const FtpTable& table) {
     QList<int> rows;
@@ -9,19 +16,40 @@ QList<int> configuredRows(const FtpTable& table) {
     return rows;
 }
 
-QList<CollectOutcome> collectRows(FTPFile& ftpFile, const QList<int>& rows,
-                                  const QString& timeText) {
+QList<CollectOutcome> collectRows(FTPFile& ftpFile, const QList<int>& rows, const QString& timeText,
+                                  bool manual) {
     constexpr int kBinary = 2;
+    std::map<int, FtpRowDetail> details;
+    CollectionEngine engine(
+        [&](int n) {
+            int result = 0;
+            ftpFile.GetFile(n, false, kBinary, result);
+            ftpFile.FTPConectClose(); // never a connection shared between rows
+            details[n] = ftpFile.lastDetail();
+            return result == 1;
+        },
+        [] { return QDateTime::currentDateTime(); },
+        [](int ms) { std::this_thread::sleep_for(std::chrono::milliseconds(ms)); });
+    // Only the rows asked for take part: the others count as not configured.
+    engine.rows.resize(FtpTable::kRows);
+    for (const int n : rows)
+        if (const FtpRow* row = ftpFile.table.row(n)) engine.rows[size_t(n - 1)].pcDir = row->PCDir;
+    engine.Retry = manual ? ftpFile.table.Retry : 0;
+    engine.Wait = ftpFile.table.Wait;
+    if (manual) {
+        engine.cmdGet();
+    } else {
+        engine.CollectionBusyRow = 1;
+        engine.RunCollection();
+    }
     QList<CollectOutcome> outcomes;
     for (const int n : rows) {
-        int result = 0;
-        ftpFile.GetFile(n, false, kBinary, result);
-        ftpFile.FTPConectClose(); // never a connection shared between rows
-        CollectOutcome outcome{n, result == 1, ftpFile.lastDetail()};
         FtpRow* row = ftpFile.table.row(n);
-        row->status = MsgText(outcome.collected ? MsgId(13) : MsgId(496));
-        if (outcome.collected) row->Time = timeText;
-        outcomes.append(outcome);
+        if (!row || !details.count(n)) continue;
+        const bool collected = engine.rows[size_t(n - 1)].status == MsgText(MsgId(13));
+        row->status = engine.rows[size_t(n - 1)].status;
+        if (collected) row->Time = timeText;
+        outcomes.append({n, collected, details[n]});
     }
     return outcomes;
 }

@@ -74,6 +74,17 @@ TEST_F(CollectVerbTest, OnePassOverTheConfiguredRows) {
     EXPECT_EQ(second.out, u"row 1\tfurnace\t%1\t0\t\nrow 2\tempty\t%1\t0\t\n"_s.arg(notCollected));
 }
 
+// --manual runs the rules of "collect all": rows after the first get one attempt, so the locked
+// row fails at once without the table's wait.
+TEST_F(CollectVerbTest, TheManualRulesGiveTheSameRows) {
+    const QString done = MsgText(13), notCollected = MsgText(496);
+    const VerbRun run = collect(portArgs() + QStringList{u"--manual"_s});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.out.startsWith(u"row 1\tfurnace\t%1\t2\t\n"_s.arg(done)))
+        << run.out.toStdString();
+    EXPECT_TRUE(run.out.contains(u"row 3\tlocked\t%1\t0\t"_s.arg(notCollected)));
+}
+
 TEST_F(CollectVerbTest, BadUsageTouchesNothing) {
     const QByteArray before = readFile(settingsPath());
     const QList<QStringList> bad = {

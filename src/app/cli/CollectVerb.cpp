@@ -12,17 +12,19 @@ namespace Cli {
 namespace {
 
 const char* const kCollectUsage =
-    "Usage: recview collect [--settings FILE] [--port N] [--row N]...\n"
+    "Usage: recview collect [--settings FILE] [--port N] [--row N]... [--manual]\n"
     "  One collection pass over the rows of the FTP table that have a local directory.\n"
     "  --settings FILE  the table (default: FTPDataSet.ini in the work directory)\n"
     "  --port N         the FTP port of every host (default 21)\n"
-    "  --row N          only this row (1..30); may be given more than once\n";
+    "  --row N          only this row (1..30); may be given more than once\n"
+    "  --manual         the rules of \"collect all\": the table's retries and waits\n";
 
 struct CollectArgs {
     QString settings = ftpDataSetPath();
     int port = 21;
     QList<int> rows;
     bool help = false;
+    bool manual = false;
 };
 
 // Parses the options; an error text on bad usage.
@@ -31,6 +33,10 @@ QString parseArgs(const QStringList& args, CollectArgs& parsed) {
         const QString& a = args[i];
         if (a == QLatin1String("--help") || a == QLatin1String("-h")) {
             parsed.help = true;
+            continue;
+        }
+        if (a == QLatin1String("--manual")) {
+            parsed.manual = true;
             continue;
         }
         const bool known = a == QLatin1String("--settings") || a == QLatin1String("--port") ||
@@ -84,7 +90,8 @@ int runCollect(const QStringList& args) {
     std::sort(rows.begin(), rows.end());
     ftpFile.settings.port = parsed.port;
     const QList<CollectOutcome> outcomes =
-        collectRows(ftpFile, rows, clsLibrary::formatNowEx(QStringLiteral("yyyy/mm/dd hh:nn:ss")));
+        collectRows(ftpFile, rows, clsLibrary::formatNowEx(QStringLiteral("yyyy/mm/dd hh:nn:ss")),
+                    parsed.manual);
     QTextStream out(stdout);
     bool anyFailed = false;
     for (const CollectOutcome& o : outcomes) {
