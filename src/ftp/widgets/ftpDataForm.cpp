@@ -3,6 +3,7 @@
 #include "base/LanguageTable.h"
 #include "base/WinColor.h"
 #include "ftp/FTPFile.h"
+#include "ftp/widgets/ftpSetForm.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -54,13 +55,13 @@ ftpDataForm::ftpDataForm(FTPFile& file, QWidget* parent)
         void (ftpDataForm::*slot)();
     } commands[] = {{"cmdGet", QStringLiteral("Get"), &ftpDataForm::cmdGet},
                     {"cmdStop", QStringLiteral("Stop"), &ftpDataForm::cmdStop},
-                    {"cmdSet", QStringLiteral("Set"), nullptr},
+                    {"cmdSet", QStringLiteral("Set"), &ftpDataForm::cmdSet},
                     {"cmdOK", MsgText(46), &ftpDataForm::cmdOK},
                     {"cmdCancel", MsgText(47), &ftpDataForm::cmdCancel}};
     for (const auto& c : commands) {
         auto* b = new QPushButton(c.caption, this);
         b->setObjectName(QLatin1String(c.name));
-        if (c.slot) connect(b, &QPushButton::clicked, this, c.slot);
+        connect(b, &QPushButton::clicked, this, c.slot);
         buttons->addWidget(b);
     }
     auto* layout = new QVBoxLayout(this);
@@ -174,6 +175,14 @@ void ftpDataForm::cmdOK() {
     file_.table.AutoReadFlg = check_->isChecked() ? 1 : 0;
     storeTimes(); // tag and folder are not edited here: the settings window keeps them
     hide();
+}
+
+// The settings window; the grid is loaded again when it closes.
+void ftpDataForm::cmdSet() {
+    if (engine_.passRunning()) return;
+    ftpSetForm settings(file_, this);
+    settings.exec();
+    loadGrid();
 }
 
 void ftpDataForm::cmdCancel() {

@@ -30,6 +30,7 @@ public:
     void RunCollection();
     void cmdGet();
     void cmdStop();
+    void cmdSet();
     void cmdOK();
     void cmdCancel();
     // A click on a cell: column 4 collects the row, column 2 opens its folder.
