@@ -36,6 +36,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTime>
 #include <QTimer>
 #include <QToolBar>
 
@@ -240,6 +241,8 @@ void frmMain::timFTP_Timer() {
         LocaleInfo::systemLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat));
     // The daily pass, when its minute has come and nothing runs.
     if (ftpFile_) dataForm().tick();
+    // Ticks fall just after whole seconds, so that drift never skips second 0.
+    if (timFTP_->isActive()) timFTP_->start(1000 - QTime::currentTime().msec() + 5);
 }
 
 bool frmMain::anyViewLoading() const {

@@ -144,9 +144,13 @@ void ftpSetForm::cellActivated(int row, int column) {
         break;
     }
     case kChoose: {
-        const QString chosen =
-            QFileDialog::getExistingDirectory(this, MsgText(481), grid_->item(r, kPcDir)->text());
-        if (!chosen.isEmpty()) grid_->item(r, kPcDir)->setText(chosen);
+        // Named as the main window's hand-off refusal knows it.
+        QFileDialog dialog(this, MsgText(481), grid_->item(r, kPcDir)->text());
+        dialog.setObjectName(QStringLiteral("frmDirectory"));
+        dialog.setFileMode(QFileDialog::Directory);
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+        if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+            grid_->item(r, kPcDir)->setText(dialog.selectedFiles().first());
         break;
     }
     default:
