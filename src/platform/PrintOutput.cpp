@@ -1,5 +1,6 @@
 #include "platform/PrintOutput.h"
 
+#include <QFile>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPdfWriter>
@@ -127,4 +128,19 @@ std::unique_ptr<PrintOutput> makePdfOutput(const QString& path) {
     writer->setResolution(600);
     writer->setCreator(QStringLiteral("recview"));
     return std::make_unique<PdfOutput>(std::move(writer));
+}
+
+bool printToPdfFile(const QString& path, const std::function<bool(PrintOutput&)>& draw) {
+    const QString temp = path + QStringLiteral(".part");
+    bool ok;
+    {
+        std::unique_ptr<PrintOutput> out = makePdfOutput(temp);
+        ok = draw(*out);
+    } // the writer closes the file here
+    if (ok) {
+        QFile::remove(path);
+        ok = QFile::rename(temp, path);
+    }
+    if (!ok) QFile::remove(temp);
+    return ok;
 }

@@ -6,6 +6,7 @@
 #include <QPageSize>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class QPagedPaintDevice;
@@ -94,3 +95,7 @@ private:
 
 // A PDF file as output: written under the given path when the document ends.
 std::unique_ptr<PrintOutput> makePdfOutput(const QString& path);
+
+// Draws a document into a PDF under a temporary name beside path and renames it into place
+// when draw succeeded; nothing is left under either name otherwise.
+bool printToPdfFile(const QString& path, const std::function<bool(PrintOutput&)>& draw);

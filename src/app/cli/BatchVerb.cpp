@@ -33,15 +33,9 @@ int writeReport(const clsBatchInfo& batch, const QString& file, const QString& p
     TrendView trend(1);
     NoProgress progress;
     trend.afterLoad(&progress);
-    const QString temp = path + QStringLiteral(".part");
-    bool ok;
-    {
-        std::unique_ptr<PrintOutput> out = makePdfOutput(temp);
-        ok = clsBatchUtil::print(*out, batch, trend, file);
-    }
-    QFile::remove(path);
-    if (ok && QFile::rename(temp, path)) return 0;
-    QFile::remove(temp);
+    if (printToPdfFile(
+            path, [&](PrintOutput& out) { return clsBatchUtil::print(out, batch, trend, file); }))
+        return 0;
     err << messageText(562) << "\n" << path << "\n";
     return 1;
 }

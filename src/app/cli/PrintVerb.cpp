@@ -79,31 +79,21 @@ int runPrint(const QStringList& input) {
         !placeCursors(cursors, e.cursors, view.tables().PointCount, error))
         return usage(error);
     if (!e.skip.isEmpty()) SkipCount() = SkipCountFromText(e.skip);
-    // The PDF goes to a temporary name beside the target and is renamed when complete.
-    const QString temp = e.out + QStringLiteral(".part");
-    bool printed = false;
-    {
-        std::unique_ptr<PrintOutput> out = makePdfOutput(temp);
+    const bool printed = printToPdfFile(e.out, [&](PrintOutput& out) {
         GridModel grid;
         if (e.marker) {
             MarkerView marker(view, cursors, grid);
             marker.load();
             const auto& points = view.state().CursorPoint;
             if (points[0] > 0 && points[1] > 0) marker.ToolbarSet(8);
-            printed = PrintMarkerView(marker, settings, *out, &progress);
-        } else {
-            DataList list(view, grid);
-            list.load();
-            list.setRowSet(rowSet);
-            printed = PrintList(list, settings, *out, &progress);
+            return PrintMarkerView(marker, settings, out, &progress);
         }
-    }
-    if (printed) {
-        QFile::remove(e.out);
-        printed = QFile::rename(temp, e.out);
-    }
+        DataList list(view, grid);
+        list.load();
+        list.setRowSet(rowSet);
+        return PrintList(list, settings, out, &progress);
+    });
     if (!printed) {
-        QFile::remove(temp);
         err << messageText(562) << "\n" << e.out << "\n";
         return 1;
     }

@@ -44,16 +44,8 @@ void print(QWidget* window, const SheetPrint& sheet) {
     if (s.Printer.isEmpty()) {
         target = QFileDialog::getSaveFileName(window, QString(), QString(),
                                               QStringLiteral("PDF (*.pdf)"));
-        if (!target.isEmpty()) {
-            const QString temp = target + QStringLiteral(".part");
-            {
-                std::unique_ptr<PrintOutput> out = makePdfOutput(temp);
-                ok = sheet(*out, &progress);
-            }
-            QFile::remove(target);
-            ok = ok && QFile::rename(temp, target);
-            if (!ok) QFile::remove(temp);
-        }
+        if (!target.isEmpty())
+            ok = printToPdfFile(target, [&](PrintOutput& out) { return sheet(out, &progress); });
     } else {
         QPrinter printer;
         printer.setPrinterName(s.Printer);
